@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QObject>
+
+#include "platform/main_loop.h"
+
+namespace tarnel {
+
+// The main loop of the application: Qt's event loop on the GUI (or core) thread.
+class QtMainLoop final : public MainLoop {
+public:
+    QtMainLoop();
+    ~QtMainLoop() override;
+
+    void post(std::function<void()> fn) override;
+    std::unique_ptr<Timer> startTimer(Duration interval, bool repeats,
+                                      std::function<void()> fire) override;
+
+private:
+    QObject context_;
+};
+
+}  // namespace tarnel

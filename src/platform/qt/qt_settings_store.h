@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QSettings>
+#include <filesystem>
+
+#include "platform/settings_store.h"
+
+namespace tarnel {
+
+// Settings in an INI file (~/.config/Tarnel/Tarnel.conf by default). QSettings replaces the
+// file through a temporary file and a rename, so a crash never leaves it half written.
+class QtSettingsStore final : public SettingsStore {
+public:
+    explicit QtSettingsStore(const std::filesystem::path& file);
+
+    std::optional<SettingValue> value(const std::string& key) const override;
+    void setValue(const std::string& key, const SettingValue& value) override;
+    void remove(const std::string& key) override;
+
+private:
+    mutable QSettings settings_;
+};
+
+}  // namespace tarnel

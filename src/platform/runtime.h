@@ -1,0 +1,58 @@
+#pragma once
+
+#include <exception>
+#include <memory>
+#include <optional>
+#include <type_traits>
+
+#include "platform/clock.h"
+#include "platform/main_loop.h"
+#include "platform/task.h"
+#include "platform/worker_pool.h"
+
+namespace tarnel {
+
+// What every long-lived object needs from the platform: the loop it lives on, the clock, and
+// the threads for blocking work.
+struct Runtime {
+    MainLoop& loop;
+    Clock& clock;
+    WorkerPool& workers;
+};
+
+// co_await onWorker(runtime, fn): runs the blocking `fn` on a worker thread and resumes on the
+// loop with its result; an exception it throws is rethrown in the awaiting coroutine.
+template <typename Fn>
+auto onWorker(Runtime& rt, Fn fn) {
+    using R = std::invoke_result_t<Fn&>;
+    struct State {
+        std::conditional_t<std::is_void_v<R>, bool, std::optional<R>> value{};
+        std::exception_ptr error;
+    };
+    struct Awaiter {
+        Runtime& rt;
+        Fn fn;
+        std::shared_ptr<State> state = std::make_shared<State>();
+        bool await_ready() const noexcept { return false; }
+        void await_suspend(std::coroutine_handle<> h) {
+            rt.workers.submit([state = state, fn = std::move(fn), &loop = rt.loop, h]() mutable {
+                try {
+                    if constexpr (std::is_void_v<R>)
+                        fn();
+                    else
+                        state->value.emplace(fn());
+                } catch (...) {
+                    state->error = std::current_exception();
+                }
+                loop.post([h] { h.resume(); });
+            });
+        }
+        R await_resume() {
+            if (state->error) std::rethrow_exception(state->error);
+            if constexpr (!std::is_void_v<R>) return std::move(*state->value);
+        }
+    };
+    return Awaiter{rt, std::move(fn)};
+}
+
+}  // namespace tarnel

@@ -1,0 +1,58 @@
+#include "records/log_service.h"
+
+#include <fstream>
+#include <system_error>
+
+namespace tarnel {
+
+const char* logLevelWord(LogLevel level) {
+    switch (level) {
+        case LogLevel::info:
+            return "INFO";
+        case LogLevel::success:
+            return "OK";
+        case LogLevel::warning:
+            return "WARN";
+        case LogLevel::error:
+            return "ERR";
+    }
+    return "INFO";
+}
+
+LogService::LogService(MainLoop& loop, const Clock& clock, std::filesystem::path logFile)
+    : loop_(loop), clock_(clock), logFile_(std::move(logFile)) {
+    std::error_code ignored;
+    std::filesystem::create_directories(logFile_.parent_path(), ignored);
+}
+
+std::string LogService::formattedLine(const LogEntry& entry) const {
+    return "[" + formatLocalTimestamp(clock_, entry.timestamp) + "] " + logLevelWord(entry.level) +
+           " " + entry.message;
+}
+
+void LogService::setEcho(std::function<void(const std::string&)> echo) {
+    queue_.sync([&] { echo_ = std::move(echo); });
+}
+
+void LogService::log(const std::string& message, LogLevel level) {
+    LogEntry entry{Uuid::random(), clock_.now(), level, message};
+    loop_.post([this, entry] {
+        auto list = entries_.value();
+        list.push_back(entry);
+        if (list.size() > maxEntries) list.erase(list.begin(), list.end() - maxEntries);
+        entries_.set(std::move(list));
+    });
+    queue_.async([this, line = formattedLine(entry)] {
+        // Appending creates the file when it is missing, e.g. deleted while we run. Failures to
+        // write the log are never reported.
+        std::ofstream out(logFile_, std::ios::app | std::ios::binary);
+        if (out) out << line << '\n';
+        if (echo_) echo_(line);
+    });
+}
+
+void LogService::clear() {
+    loop_.post([this] { entries_.set({}); });
+}
+
+}  // namespace tarnel

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/clock.h"
+#include "platform/main_loop.h"
+#include "platform/observable.h"
+#include "platform/serial_queue.h"
+#include "platform/uuid.h"
+
+namespace tarnel {
+
+enum class LogLevel { info, success, warning, error };
+
+// "INFO", "OK", "WARN", "ERR": the level's word in the file.
+const char* logLevelWord(LogLevel level);
+
+struct LogEntry {
+    Uuid id;
+    TimePoint timestamp;
+    LogLevel level = LogLevel::info;
+    std::string message;
+};
+
+// The one sink for what the program tells about its work: the last 100 entries in memory for
+// the log window, every entry appended to the log file by its own writer thread.
+class LogService {
+public:
+    static constexpr std::size_t maxEntries = 100;
+
+    LogService(MainLoop& loop, const Clock& clock, std::filesystem::path logFile);
+
+    // Callable from any thread. Callers compose "[name] text"; the service adds time and level.
+    void log(const std::string& message, LogLevel level = LogLevel::info);
+    // Empties the in-memory list; the file stays.
+    void clear();
+
+    // "[yyyy-MM-dd HH:mm:ss] WORD message", without the newline.
+    std::string formattedLine(const LogEntry& entry) const;
+
+    // Also hands each formatted line to `echo` (on the writer thread): the headless runner
+    // prints the log on standard output.
+    void setEcho(std::function<void(const std::string&)> echo);
+
+    const Observable<std::vector<LogEntry>>& entries() const { return entries_; }
+    const std::filesystem::path& logFileURL() const { return logFile_; }
+
+    // Waits until every line logged so far is in the file (tests, shutdown).
+    void flush() { queue_.drain(); }
+
+private:
+    MainLoop& loop_;
+    const Clock& clock_;
+    std::filesystem::path logFile_;
+    Observable<std::vector<LogEntry>> entries_;
+    std::function<void(const std::string&)> echo_;
+    SerialQueue queue_;
+};
+
+}  // namespace tarnel
