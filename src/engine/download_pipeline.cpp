@@ -1,0 +1,386 @@
+// The download of one stable file, from routing to the remote delete, and the bookkeeping of a
+// poll's batch.
+#include <atomic>
+#include <cctype>
+#include <chrono>
+#include <cmath>
+#include <map>
+#include <system_error>
+
+#include "connections/routing.h"
+#include "engine/destination.h"
+#include "engine/foundation_path.h"
+#include "connections/finder_tags.h"
+#include "engine/md5.h"
+#include "engine/sync_engine.h"
+#include "platform/runtime.h"
+#include "platform/sliding_window.h"
+#include "platform/sound_player.h"
+#include "records/app_settings.h"
+#include "records/byte_count_format.h"
+#include "records/download_tracker.h"
+#include "records/history_service.h"
+#include "records/notification_service.h"
+#include "records/partial_download_tracker.h"
+#include "records/stats_service.h"
+#include "transfer/speed_calculator.h"
+
+namespace tarnel {
+
+namespace fs = std::filesystem;
+
+namespace {
+constexpr const char* partialSuffix = ".tarnel-partial";
+// The popover redraws a few times a second; more progress tasks than that only load the loop.
+constexpr auto progressPostInterval = std::chrono::milliseconds(100);
+
+// A local file operation that failed, in words a user can act on.
+struct LocalFailure {
+    std::string text;
+};
+
+void throwIfFailed(const std::error_code& ec, const std::string& what, const fs::path& path) {
+    if (ec) throw LocalFailure{what + " '" + path.string() + "': " + ec.message()};
+}
+
+void makeFolder(const fs::path& folder) {
+    std::error_code ec;
+    fs::create_directories(folder, ec);
+    throwIfFailed(ec, "Could not create the folder", folder);
+}
+
+void moveFile(const fs::path& from, const fs::path& to) {
+    std::error_code ec;
+    fs::rename(from, to, ec);
+    throwIfFailed(ec, "Could not move the file to", to);
+}
+
+// Percent-encodes a file name for a URL path: letters, digits and "-._~!$&'()*+,;=:@/" stay.
+std::string percentEncodePath(const std::string& name) {
+    static constexpr std::string_view allowed = "-._~!$&'()*+,;=:@/";
+    std::string out;
+    for (unsigned char c : name) {
+        if (std::isalnum(c) || allowed.find(static_cast<char>(c)) != std::string_view::npos) {
+            out += static_cast<char>(c);
+        } else {
+            static constexpr char hex[] = "0123456789ABCDEF";
+            out += '%';
+            out += hex[c >> 4];
+            out += hex[c & 0x0F];
+        }
+    }
+    return out;
+}
+}  // namespace
+
+Task<std::vector<TransferResult>> SyncEngine::downloadStableFiles(std::vector<TrackedFile> stable) {
+    // A limit below 1 (an edited file) downloads one at a time rather than waiting for ever.
+    co_return co_await slidingWindow<TransferResult>(
+        services_.runtime.loop, std::move(stable), config_.maxConcurrentDownloads,
+        [this](const TrackedFile& file) { return transferFile(file, ++renameCounter_); });
+}
+
+std::string SyncEngine::remoteFileURL(const TrackedFile& file) const {
+    if (file.relativePath.empty()) return config_.baseRemoteURL() + percentEncodePath(file.name);
+    const std::string full = stringByAppendingPathComponent(config_.remotePath, file.relativePath);
+    return config_.remoteURL(stringByDeletingLastPathComponent(full)) + percentEncodePath(file.name);
+}
+
+RemoteService::ProgressCallback SyncEngine::progressReporter(const Uuid& rowId,
+                                                             const std::string& key,
+                                                             std::int64_t listedSize) {
+    struct Shared {
+        explicit Shared(const Clock& c) : speed(c) {}
+        SpeedCalculator speed;
+        std::atomic<std::int64_t> lastPost{0};
+    };
+    auto shared = std::make_shared<Shared>(services_.runtime.clock);
+    std::weak_ptr<SyncEngine> weak = weak_from_this();
+    auto& partials = services_.partialTracker;
+    auto& loop = services_.runtime.loop;
+    // Runs on the transfer's thread: it touches no engine state, only posts to the loop.
+    return [=, &partials, &loop](std::int64_t received, std::int64_t expected) {
+        shared->speed.addSample(received);
+        partials.updateProgress(key, received);
+        const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
+        const auto last = shared->lastPost.load();
+        if (received < expected &&
+            now - last < std::chrono::steady_clock::duration(progressPostInterval).count())
+            return;
+        shared->lastPost = now;
+        const double speed = shared->speed.currentSpeed();
+        const std::int64_t total = expected >= 1 ? expected : listedSize;
+        loop.post([weak, rowId, received, total, speed] {
+            auto self = weak.lock();
+            if (!self) return;
+            auto rows = self->activeDownloads_();
+            for (auto& row : rows) {
+                if (row.id != rowId) continue;
+                row.downloadedBytes = received;
+                row.totalBytes = total;
+                row.speed = speed;
+                self->activeDownloads_.set(std::move(rows));
+                return;
+            }
+        });
+    };
+}
+
+void SyncEngine::removeProgressRow(const Uuid& rowId) {
+    auto rows = activeDownloads_();
+    std::erase_if(rows, [&](const DownloadProgress& r) { return r.id == rowId; });
+    activeDownloads_.set(std::move(rows));
+}
+
+Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
+    auto self = shared_from_this();
+    const Clock& clock = services_.runtime.clock;
+    auto& partials = services_.partialTracker;
+    const std::string key = trackingKey(file.name, file.relativePath);
+    TransferResult result{file.name, file.name, file.size, false, config_.localPath,
+                          std::nullopt, key, false, false};
+
+    std::string folder = !file.relativePath.empty() && config_.exploreSubdirectories
+                             ? destinationDirectory(config_, file.relativePath, file.firstSeen, clock)
+                             : baseLocalDestination(config_, file.firstSeen, clock);
+
+    // No remote name may place a file outside the folder it lands in.
+    auto problem = remotePathProblem(file.name);
+    if (!problem) problem = remotePathProblem(key);
+    if (problem) {
+        log("Refused " + key + ": " + *problem + "; left on the server", LogLevel::warning);
+        result.success = result.wasIgnored = true;
+        result.destinationPath = folder;
+        co_return result;
+    }
+
+    std::optional<RoutingRule> matchedRule;
+    if (!config_.routingRules.empty() || config_.fallbackBehavior != FallbackBehavior::useLocalFolder) {
+        RuleFolders ruleURLs;
+        std::optional<fs::path> fallbackURL;
+        if (auto manager = connectionsManager_.lock()) {
+            ruleURLs = manager->ruleDestinations(config_.id);
+            fallbackURL = manager->fallbackDestination(config_.id);
+        }
+        auto routing = route(file.name, folder, config_.routingRules, config_.fallbackBehavior,
+                             ruleURLs, fallbackURL);
+        if (!routing.destinationURL) {
+            log("Ignored by routing rule: " + key);
+            result.success = result.wasIgnored = true;
+            result.destinationPath = folder;
+            co_return result;
+        }
+        folder = routing.destinationURL->string();
+        matchedRule = routing.matchedRule;
+    }
+    const fs::path tempPath = fs::path(folder) / (file.name + partialSuffix);
+
+    // Resume, when a temporary file of this very remote file is there and not yet whole.
+    bool resume = false;
+    std::int64_t offset = 0;
+    if (config_.maxResumeAttempts >= 1) {
+        if (auto record = partials.partial(key)) {
+            std::error_code ec;
+            if (!fs::exists(tempPath, ec)) {
+                partials.remove(key);
+            } else {
+                auto size = fs::file_size(tempPath, ec);
+                const std::int64_t local = ec ? 0 : static_cast<std::int64_t>(size);
+                if (local > 0 && local < file.size && record->expectedSize == file.size) {
+                    if (record->resumeAttempts >= config_.maxResumeAttempts) {
+                        log("Resume exhausted for " + key + " after " +
+                                std::to_string(record->resumeAttempts) + " attempts, starting fresh",
+                            LogLevel::warning);
+                        partials.discard(key);
+                    } else {
+                        partials.incrementResumeAttempts(key);
+                        log("Resuming: " + key + " from " + formatFileByteCount(local) +
+                            " (attempt " + std::to_string(record->resumeAttempts + 1) + "/" +
+                            std::to_string(config_.maxResumeAttempts) + ")");
+                        resume = true;
+                        offset = local;
+                    }
+                } else {
+                    log("Remote file changed, discarding partial: " + key);
+                    partials.discard(key);
+                }
+            }
+        }
+    }
+
+    std::optional<std::string> failure;
+    Uuid rowId;
+    try {
+        makeFolder(folder);
+        if (!resume) {
+            const auto now = clock.now();
+            partials.record({key, tempPath.string(), file.size, 0, config_.id.toString(), now, now, 0});
+        }
+        DownloadProgress row;
+        row.fileName = file.name;
+        row.connectionName = config_.name;
+        row.totalBytes = file.size;
+        row.downloadedBytes = offset;
+        row.startTime = clock.now();
+        row.isResuming = resume;
+        rowId = row.id;
+        auto rows = activeDownloads_();
+        rows.push_back(row);
+        activeDownloads_.set(std::move(rows));
+
+        const std::string url = remoteFileURL(file);
+        makeFolder(folder);  // again: it may have gone while we waited
+        co_await ftpService_->downloadFile(file.name + partialSuffix, tempPath, offset,
+                                           progressReporter(rowId, key, file.size), url);
+        removeProgressRow(rowId);
+
+        std::error_code ec;
+        const auto localSize = fs::file_size(tempPath, ec);
+        throwIfFailed(ec, "Could not read the downloaded file", tempPath);
+        const auto local = static_cast<std::int64_t>(localSize);
+        const std::int64_t expected = file.size;
+        result.destinationPath = folder;
+        result.wasResumed = resume;
+        if (expected < 1 && local == 0) {
+            log("Empty file after download: " + key, LogLevel::error);
+            std::error_code removeError;
+            fs::remove(tempPath, removeError);
+            if (removeError)
+                log("Could not remove empty partial " + tempPath.filename().string() + ": " +
+                        removeError.message(),
+                    LogLevel::warning);
+            partials.remove(key);
+            result.errorMessage = FTPError::emptyFile(file.name).errorDescription();
+            co_return result;
+        }
+        if (expected >= 1 && local != expected) {
+            // The temporary file and its record stay: the next attempt resumes or starts over.
+            log("Size mismatch: " + key + " \u2014 remote: " + formatFileByteCount(expected) +
+                    ", local: " + formatFileByteCount(local),
+                LogLevel::error);
+            result.errorMessage = FTPError::sizeMismatch(expected, local).errorDescription();
+            co_return result;
+        }
+
+        fs::path placed = uniqueDestinationURL(fs::path(folder) / file.name);
+        moveFile(tempPath, placed);
+        partials.remove(key);
+        if (matchedRule) applyFinderTags(placed, matchedRule->tagColor, matchedRule->tagName);
+        log(std::string("Verified") + (resume ? " (resumed)" : "") + ": " + key + " \u2014 " +
+            formatFileByteCount(local));
+        if (config_.checksumVerification) log("MD5: " + key + " = " + computeMD5(placed));
+
+        const std::string newName = applyRenamePattern(config_, file.name, counter, clock);
+        if (newName != file.name) {
+            if (auto bad = remotePathProblem(newName)) throw LocalFailure{*bad};
+            fs::path renamed = uniqueDestinationURL(placed.parent_path() / newName);
+            moveFile(placed, renamed);
+            log("Renamed: " + file.name + " \u2192 " + renamed.filename().string());
+            placed = renamed;
+        }
+        result.finalName = newName;
+        result.size = local;
+
+        if (config_.deleteAfterDownload) {
+            std::optional<std::string> deleteError;
+            try {
+                co_await ftpService_->deleteFile(key);
+            } catch (const FTPError& e) {
+                deleteError = e.errorDescription();
+            }
+            if (deleteError) {
+                // Counted as a success; the file stays on the server and comes back as new.
+                undeletedFiles_.insert(key);
+                log("Downloaded OK but delete failed: " + key + " \u2014 " + *deleteError,
+                    LogLevel::warning);
+            } else {
+                undeletedFiles_.erase(key);
+                log("Moved: " + key + " \u2192 " + folder, LogLevel::success);
+            }
+        } else {
+            log("Copied: " + key + " \u2192 " + folder, LogLevel::success);
+        }
+        result.success = true;
+        co_return result;
+    } catch (const FTPError& e) {
+        failure = e.errorDescription();
+    } catch (const LocalFailure& e) {
+        failure = e.text;
+    }
+
+    auto rows = activeDownloads_();
+    std::erase_if(rows, [&](const DownloadProgress& r) {
+        return r.fileName == file.name && r.connectionName == config_.name;
+    });
+    activeDownloads_.set(std::move(rows));
+    log("Failed: " + key + " \u2014 " + *failure, LogLevel::error);
+    result.finalName = file.name;
+    result.size = file.size;
+    result.destinationPath = config_.localPath;
+    result.errorMessage = failure;
+    result.wasResumed = false;
+    result.success = false;
+    co_return result;
+}
+
+Task<void> SyncEngine::bookResults(const std::vector<TransferResult>& results) {
+    std::vector<std::string> names;
+    std::int64_t total = 0;
+    const auto now = services_.runtime.clock.now();
+    for (const auto& r : results) {
+        if (r.success) total += r.size;  // ignored files count too, as they always have
+        if (r.wasIgnored) {
+            trackedFiles_.erase(r.trackingKey);
+            retryState_.erase(r.trackingKey);
+            downloadTracker_->markDownloaded(r.trackingKey, r.size);
+            trackedFileCount_.set(static_cast<int>(trackedFiles_.size()));
+        } else if (r.success) {
+            trackedFiles_.erase(r.trackingKey);
+            retryState_.erase(r.trackingKey);
+            if (!config_.deleteAfterDownload) downloadTracker_->markDownloaded(r.trackingKey, r.size);
+            totalTransferred_.set(totalTransferred_() + 1);
+            trackedFileCount_.set(static_cast<int>(trackedFiles_.size()));
+            services_.statsService.recordDownload(r.size);
+            lastDownloadedFile_.set(DownloadedFileInfo{r.finalName, r.size, now});
+            names.push_back(r.finalName);
+            services_.historyService.add({Uuid::random(), now, r.name, r.finalName, r.size,
+                                          config_.host, config_.remotePath, r.destinationPath,
+                                          config_.name, TransferStatus::success, std::nullopt});
+        } else {
+            handleFileFailure(r.trackingKey, r.size, r.errorMessage);
+        }
+    }
+    if (names.empty()) co_return;
+    services_.notifications.notifyDownloaded(names, total, config_.name);
+    if (services_.globalSettings.playSoundOnDownload())
+        services_.soundPlayer.play(services_.globalSettings.soundName());
+}
+
+void SyncEngine::handleFileFailure(const std::string& key, std::int64_t size,
+                                   const std::optional<std::string>& message) {
+    const auto now = services_.runtime.clock.now();
+    RetryInfo info = retryState_.contains(key) ? retryState_[key] : RetryInfo{0, now};
+    const int a = ++info.attempts;
+    const int m = config_.maxRetries;
+    if (a >= m) {
+        log("Retry exhausted for " + key + " after " + std::to_string(a) + " attempts",
+            LogLevel::error);
+        retryState_.erase(key);
+        trackedFiles_.erase(key);
+        services_.historyService.add({Uuid::random(), now, key, key, size, config_.host,
+                                      config_.remotePath, config_.localPath, config_.name,
+                                      TransferStatus::retryExhausted, message});
+        services_.notifications.notifyTransferFailed(config_.name, key, m);
+        return;
+    }
+    // Waits grow by three: 5, 15, 45 s... They are told in the log; the next poll tries anyway.
+    const double wait = 5.0 * std::pow(3.0, a - 1);
+    info.nextRetry = now + std::chrono::duration_cast<std::chrono::system_clock::duration>(
+                               std::chrono::duration<double>(wait));
+    retryState_[key] = info;
+    log("Will retry " + key + " in " + std::to_string(static_cast<long long>(wait)) +
+            "s (attempt " + std::to_string(a) + "/" + std::to_string(m) + ")",
+        LogLevel::warning);
+}
+
+}  // namespace tarnel

@@ -1,0 +1,41 @@
+#include "engine/ftp_remote_service.h"
+
+namespace tarnel {
+
+FtpRemoteService::FtpRemoteService(Runtime& runtime, std::unique_ptr<FTPService> service)
+    : runtime_(runtime), service_(std::move(service)) {}
+
+Task<std::vector<FTPFileEntry>> FtpRemoteService::listFiles() {
+    co_return co_await onWorker(runtime_, [this] { return service_->listFiles(); });
+}
+
+Task<std::vector<FTPFileEntry>> FtpRemoteService::listFilesAtPath(std::string path) {
+    co_return co_await onWorker(runtime_, [this, &path] { return service_->listFiles(path); });
+}
+
+Task<std::vector<FTPFileEntry>> FtpRemoteService::collectFiles(
+    std::string path, int maxDepth, std::optional<std::vector<std::string>> allowedPaths) {
+    co_return co_await onWorker(runtime_, [&] {
+        std::vector<FTPFileEntry> into;
+        service_->collectFiles(path, "", 0, maxDepth, allowedPaths, into);
+        return into;
+    });
+}
+
+Task<void> FtpRemoteService::downloadFile(std::string name, std::filesystem::path to,
+                                          std::int64_t resumeFrom, ProgressCallback onProgress,
+                                          std::optional<std::string> remoteURL) {
+    co_await onWorker(runtime_, [&] {
+        service_->downloadFile(name, to, resumeFrom, onProgress, remoteURL);
+    });
+}
+
+Task<void> FtpRemoteService::deleteFile(std::string name) {
+    co_await onWorker(runtime_, [this, &name] { service_->deleteFile(name); });
+}
+
+Task<void> FtpRemoteService::deleteDirectory(std::string path) {
+    co_await onWorker(runtime_, [this, &path] { service_->deleteDirectory(path); });
+}
+
+}  // namespace tarnel

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace tarnel {
+
+// The MD5 of a file as 32 lower-case hex digits, read in 64 KiB blocks; "error" if the file
+// cannot be read. Only ever logged: nothing is compared against it.
+std::string computeMD5(const std::filesystem::path& file);
+
+}  // namespace tarnel

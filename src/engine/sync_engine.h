@@ -1,0 +1,144 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "connections/connection_config.h"
+#include "engine/engine_services.h"
+#include "engine/fleet_link.h"
+#include "engine/remote_service.h"
+#include "engine/tracked_file.h"
+#include "engine/transfer_result.h"
+#include "platform/observable.h"
+#include "records/log_service.h"
+#include "platform/task.h"
+#include "transfer/download_progress.h"
+#include "transfer/ftp_error.h"
+
+namespace tarnel {
+
+class DownloadTracker;
+
+// In this order; across engines the worst counts: error, syncing, connected, idle.
+enum class ConnectionState { idle, connected, syncing, error };
+
+struct DownloadedFileInfo {
+    std::string name;
+    std::int64_t size = 0;
+    TimePoint date;
+    bool operator==(const DownloadedFileInfo&) const = default;
+};
+
+// A failed file's retries.
+struct RetryInfo {
+    int attempts = 0;
+    TimePoint nextRetry;
+};
+
+// The watcher of one connection. Lists the remote folder on a timer, holds files back until
+// their size has settled, downloads what is stable and books the outcome. Lives on the main
+// loop; held in a shared_ptr so that timers and wake-ups can hold it weakly, while a running
+// poll holds it strongly until its transfers are booked.
+class SyncEngine : public std::enable_shared_from_this<SyncEngine> {
+public:
+    static constexpr int failureThreshold = 3;  // printed in the failed-poll line, nothing more
+
+    SyncEngine(ConnectionConfig config, std::unique_ptr<RemoteService> ftpService,
+               std::unique_ptr<DownloadTracker> downloadTracker, const EngineServices& services);
+    ~SyncEngine();
+
+    SyncEngine(const SyncEngine&) = delete;
+    SyncEngine& operator=(const SyncEngine&) = delete;
+
+    void start();
+    void stop();
+    void togglePause();
+    // One poll cycle. Never throws; returns at once if a poll is running.
+    Task<void> pollOnce();
+
+    const ConnectionConfig& config() const { return config_; }
+    bool syncInProgress() const { return syncInProgress_; }
+    void setConnectionsManager(std::weak_ptr<FleetLink> manager) {
+        connectionsManager_ = std::move(manager);
+    }
+
+    const Observable<ConnectionState>& connectionState() const { return connectionState_; }
+    const Observable<std::string>& statusText() const { return statusText_; }
+    const Observable<std::optional<TimePoint>>& lastSyncTime() const { return lastSyncTime_; }
+    const Observable<bool>& isPaused() const { return isPaused_; }
+    const Observable<bool>& isSyncing() const { return isSyncing_; }
+    const Observable<int>& trackedFileCount() const { return trackedFileCount_; }
+    const Observable<int>& totalTransferred() const { return totalTransferred_; }
+    const Observable<std::vector<DownloadProgress>>& activeDownloads() const {
+        return activeDownloads_;
+    }
+    const Observable<std::vector<TrackedFileSnapshot>>& trackedSnapshots() const {
+        return trackedSnapshots_;
+    }
+    const Observable<std::optional<DownloadedFileInfo>>& lastDownloadedFile() const {
+        return lastDownloadedFile_;
+    }
+
+    // The local folder test before each listing: nothing when the folder is usable.
+    std::optional<FTPError> checkLocalFolder() const;
+    // The stability pass of a successful poll: returns the files whose size has settled.
+    std::vector<TrackedFile> updateStability(const std::vector<FTPFileEntry>& entries);
+    // Brings one stable file to its place. Never throws: a failure is a result.
+    Task<TransferResult> transferFile(TrackedFile file, int counter);
+
+private:
+    void startTimer();
+    void installSleepObservers();
+    void removeSleepObservers();
+    void handleSleep();
+    void handleWake();
+    static Task<void> resumeAfterWake(std::weak_ptr<SyncEngine> weak, MainLoop& loop);
+    void spawnPoll();
+
+    bool passesListingFilters(const FTPFileEntry& entry) const;
+    Task<std::vector<TransferResult>> downloadStableFiles(std::vector<TrackedFile> stable);
+    Task<void> bookResults(const std::vector<TransferResult>& results);
+    void handleFileFailure(const std::string& key, std::int64_t size,
+                           const std::optional<std::string>& message);
+    RemoteService::ProgressCallback progressReporter(const Uuid& rowId, const std::string& key,
+                                                     std::int64_t listedSize);
+    void removeProgressRow(const Uuid& rowId);
+    std::string remoteFileURL(const TrackedFile& file) const;
+    void folderFailure(const FTPError& error);
+    void pollFailure(const std::string& message);
+    void endPoll();
+    void log(const std::string& text, LogLevel level = LogLevel::info) const;
+
+    ConnectionConfig config_;
+    std::unique_ptr<RemoteService> ftpService_;
+    std::unique_ptr<DownloadTracker> downloadTracker_;
+    EngineServices services_;
+    std::weak_ptr<FleetLink> connectionsManager_;
+
+    Observable<ConnectionState> connectionState_{ConnectionState::idle};
+    Observable<std::string> statusText_{"Idle"};
+    Observable<std::optional<TimePoint>> lastSyncTime_;
+    Observable<bool> isPaused_{false};
+    Observable<bool> isSyncing_{false};
+    Observable<int> trackedFileCount_{0};
+    Observable<int> totalTransferred_{0};
+    Observable<std::vector<DownloadProgress>> activeDownloads_;
+    Observable<std::vector<TrackedFileSnapshot>> trackedSnapshots_;
+    Observable<std::optional<DownloadedFileInfo>> lastDownloadedFile_;
+
+    std::unordered_map<std::string, TrackedFile> trackedFiles_;
+    std::unordered_map<std::string, RetryInfo> retryState_;
+    std::unique_ptr<Timer> timer_;
+    bool syncInProgress_ = false;
+    int renameCounter_ = 0;
+    int consecutiveFailures_ = 0;
+    std::vector<std::string> dynamicSelectedPaths_;
+    std::set<std::string> undeletedFiles_;
+    Subscription sleepObservers_;
+};
+
+}  // namespace tarnel

@@ -1,0 +1,167 @@
+#include "fleet/connections_manager.h"
+
+#include "connections/connection_config_json.h"
+#include "engine/ftp_remote_service.h"
+#include "platform/runtime.h"
+#include "records/download_tracker.h"
+#include "records/partial_download_tracker.h"
+#include "transfer/curl_transfer_client.h"
+#include "transfer/ftp_service.h"
+
+namespace tarnel {
+
+namespace {
+// Worst first: one engine in error makes the fleet's state error.
+int severity(ConnectionState s) {
+    switch (s) {
+        case ConnectionState::error:
+            return 3;
+        case ConnectionState::syncing:
+            return 2;
+        case ConnectionState::connected:
+            return 1;
+        case ConnectionState::idle:
+            return 0;
+    }
+    return 0;
+}
+}  // namespace
+
+ConnectionsManager::ConnectionsManager(FleetServices services, RemoteFactory makeRemote)
+    : services_(std::move(services)),
+      makeRemote_(std::move(makeRemote)),
+      partialTracker_(std::make_unique<PartialDownloadTracker>(services_.partialsFile)),
+      engineServices_{services_.runtime,        services_.logService,
+                      services_.statsService,   services_.historyService,
+                      services_.globalSettings, *partialTracker_,
+                      services_.notifications,  services_.sleepMonitor,
+                      services_.soundPlayer} {
+    if (!makeRemote_)
+        makeRemote_ = [this](const ConnectionConfig& config) { return makeCurlRemote(config); };
+    loadConnections();
+}
+
+ConnectionsManager::~ConnectionsManager() = default;
+
+std::unique_ptr<RemoteService> ConnectionsManager::makeCurlRemote(
+    const ConnectionConfig& config) const {
+    auto client = std::make_unique<CurlTransferClient>(config, services_.knownHostsFile);
+    auto service = std::make_unique<FTPService>(config, services_.logService, std::move(client));
+    return std::make_unique<FtpRemoteService>(services_.runtime, std::move(service));
+}
+
+void ConnectionsManager::loadConnections() {
+    auto stored = services_.settingsStore.stringValue(storageKey);
+    if (!stored) return;
+    try {
+        connections_.set(decodeConnectionList(*stored));
+    } catch (const ConfigDecodeError&) {
+        // An unreadable list looks like an empty one; its bytes stay until the next save.
+        return;
+    }
+    // Written back at once, so that defaults for keys a record lacked are stored in full.
+    saveConnections();
+}
+
+void ConnectionsManager::saveConnections() {
+    services_.settingsStore.setValue(storageKey, encodeConnectionList(connections_()));
+}
+
+void ConnectionsManager::createEngine(const ConnectionConfig& config, bool startPaused) {
+    auto tracker = std::make_unique<DownloadTracker>(services_.settingsStore, config.id.toString());
+    auto engine = std::make_shared<SyncEngine>(config, makeRemote_(config), std::move(tracker),
+                                               engineServices_);
+    engine->setConnectionsManager(std::weak_ptr<FleetLink>(weak_from_this()));
+    engines_[config.id] = engine;
+
+    // Subscriptions of a stopped or replaced engine stay until stopAll(); a stopped engine has
+    // published its last state and goes quiet.
+    std::weak_ptr<ConnectionsManager> weak = weak_from_this();
+    cancellables_.push_back(combineLatest(
+        [weak] {
+            if (auto self = weak.lock()) self->recomputeAggregates();
+        },
+        engine->connectionState(), engine->isPaused(), engine->activeDownloads()));
+    // Counts changes, not amounts.
+    cancellables_.push_back(skipFirst(engine->totalTransferred(), [weak](int) {
+        if (auto self = weak.lock()) self->unreadCount_.set(self->unreadCount_() + 1);
+    }));
+
+    engine->start();
+    if (startPaused) engine->togglePause();
+}
+
+void ConnectionsManager::recomputeAggregates() {
+    ConnectionState worst = ConnectionState::idle;
+    bool allPaused = !engines_.empty(), downloading = false;
+    for (const auto& [id, engine] : engines_) {
+        if (severity(engine->connectionState()()) > severity(worst)) worst = engine->connectionState()();
+        allPaused = allPaused && engine->isPaused()();
+        downloading = downloading || !engine->activeDownloads()().empty();
+    }
+    aggregateState_.set(worst);
+    aggregatePaused_.set(allPaused);
+    aggregateDownloading_.set(downloading);
+    hasActiveEngines_.set(!engines_.empty());
+}
+
+const ConnectionConfig* ConnectionsManager::findConnection(const Uuid& id) const {
+    for (const auto& c : connections_())
+        if (c.id == id) return &c;
+    return nullptr;
+}
+
+namespace {
+bool isExistingFolder(const std::string& path) {
+    std::error_code ec;
+    return !path.empty() && std::filesystem::is_directory(path, ec);
+}
+}  // namespace
+
+RuleFolders ConnectionsManager::ruleDestinations(const Uuid& connectionId) const {
+    RuleFolders out;
+    if (const auto* config = findConnection(connectionId))
+        for (const auto& rule : config->routingRules)
+            if (rule.destinationPath && isExistingFolder(*rule.destinationPath))
+                out[rule.id] = *rule.destinationPath;
+    return out;
+}
+
+std::optional<std::filesystem::path> ConnectionsManager::fallbackDestination(
+    const Uuid& connectionId) const {
+    const auto* config = findConnection(connectionId);
+    if (config && isExistingFolder(config->fallbackPath)) return config->fallbackPath;
+    return std::nullopt;
+}
+
+void ConnectionsManager::startAll() {
+    for (const auto& config : connections_())
+        if (config.enabled && !config.host.empty()) createEngine(config, !config.autoConnectOnLaunch);
+}
+
+void ConnectionsManager::stopAll() {
+    for (auto& [id, engine] : engines_) engine->stop();
+    engines_.clear();
+    cancellables_.clear();
+}
+
+void ConnectionsManager::pauseAll() {
+    for (auto& [id, engine] : engines_)
+        if (!engine->isPaused()()) engine->togglePause();
+    // Forced until the next recomputation puts it right.
+    aggregatePaused_.set(true);
+}
+
+void ConnectionsManager::resumeAll() {
+    for (auto& [id, engine] : engines_)
+        if (engine->isPaused()()) engine->togglePause();
+    aggregatePaused_.set(false);
+}
+
+void ConnectionsManager::syncAllNow() {
+    // Paused engines are not skipped: the engine's own poll decides.
+    for (auto& [id, engine] : engines_)
+        if (!engine->syncInProgress()) spawn(services_.runtime.loop, engine->pollOnce());
+}
+
+}  // namespace tarnel

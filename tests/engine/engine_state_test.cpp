@@ -1,0 +1,234 @@
+#include <gtest/gtest.h>
+
+#include "engine_fixture.h"
+
+namespace tarnel::testing {
+namespace {
+
+using namespace std::chrono_literals;
+
+struct EngineStateTest : EngineFixture {};
+
+TEST_F(EngineStateTest, StartWaitsOneIntervalAndAPollLongerThanTheIntervalNeverOverlaps) {
+    server->listingDelay = 45s;
+    auto engine = makeEngine();
+    engine->start();
+    EXPECT_EQ(engine->statusText()(), "Waiting...");
+    EXPECT_TRUE(hasLogLine("[Test] Started (interval: 30s, protocol: FTP)"));
+
+    loop.advance(29s);
+    EXPECT_EQ(server->listings, 0);
+    loop.advance(1s);  // 30 s: the first poll, its listing runs until 75 s
+    EXPECT_EQ(server->listings, 1);
+    EXPECT_EQ(engine->connectionState()(), ConnectionState::syncing);
+    EXPECT_EQ(engine->statusText()(), "Syncing...");
+    EXPECT_TRUE(engine->isSyncing()());
+
+    loop.advance(45s);  // 60 s fire dropped by the running poll; it ends at 75 s
+    EXPECT_EQ(server->listings, 1);
+    EXPECT_EQ(engine->connectionState()(), ConnectionState::connected);
+    EXPECT_EQ(engine->statusText()(), "Connected");
+    EXPECT_FALSE(engine->syncInProgress());
+    EXPECT_FALSE(engine->isSyncing()());
+
+    loop.advance(15s);  // 90 s: the next fire polls again
+    EXPECT_EQ(server->listings, 2);
+    EXPECT_EQ(server->maxListingsInFlight, 1);
+}
+
+TEST_F(EngineStateTest, PauseDuringAPollLetsItFinishAndStopsTheNextOnes) {
+    server->listingDelay = 10s;
+    auto engine = makeEngine();
+    engine->start();
+    loop.advance(30s);
+    ASSERT_EQ(server->listings, 1);
+
+    engine->togglePause();
+    EXPECT_TRUE(engine->isPaused()());
+    EXPECT_EQ(engine->statusText()(), "Paused");
+    EXPECT_EQ(engine->connectionState()(), ConnectionState::idle);
+
+    loop.advance(10s);  // the running poll goes on and writes over "Paused"
+    EXPECT_EQ(engine->statusText()(), "Connected");
+    EXPECT_TRUE(engine->isPaused()());
+    loop.advance(300s);
+    EXPECT_EQ(server->listings, 1);
+
+    // Resuming polls at once, then on the timer again.
+    engine->togglePause();
+    loop.runUntilIdle();
+    EXPECT_EQ(server->listings, 2);
+    EXPECT_TRUE(hasLogLine("[Test] Resumed"));
+    loop.advance(40s);
+    EXPECT_EQ(server->listings, 3);
+}
+
+TEST_F(EngineStateTest, SleepStopsTheTimerAndWakeResumesAfterThreeSeconds) {
+    auto engine = makeEngine();
+    engine->start();
+    sleepMonitor.fireSleep();
+    EXPECT_TRUE(hasLogLine("[Test] System going to sleep \u2014 pausing sync timer"));
+    loop.advance(120s);
+    EXPECT_EQ(server->listings, 0);
+    EXPECT_FALSE(engine->isPaused()());  // sleep leaves the user's pause alone
+
+    sleepMonitor.fireWake();
+    EXPECT_TRUE(hasLogLine("[Test] System woke up \u2014 resuming sync"));
+    loop.advance(2999ms);
+    EXPECT_EQ(server->listings, 0);
+    loop.advance(1ms);
+    EXPECT_EQ(server->listings, 1);
+    loop.advance(30s);  // the timer is back
+    EXPECT_EQ(server->listings, 2);
+}
+
+TEST_F(EngineStateTest, WakeOfAPausedEngineOnlyLogs) {
+    auto engine = makeEngine();
+    engine->start();
+    engine->togglePause();
+    sleepMonitor.fireSleep();
+    sleepMonitor.fireWake();
+    loop.advance(120s);
+    EXPECT_TRUE(hasLogLine("[Test] System woke up \u2014 resuming sync"));
+    EXPECT_EQ(server->listings, 0);
+}
+
+TEST_F(EngineStateTest, WithoutPauseResumeOnWakeSleepAndWakeChangeNothing) {
+    settings.setPauseResumeOnWake(false);
+    auto engine = makeEngine();
+    engine->start();
+    sleepMonitor.fireSleep();
+    loop.advance(30s);
+    EXPECT_EQ(server->listings, 1);  // the timer stayed
+    sleepMonitor.fireWake();
+    loop.advance(5s);
+    EXPECT_EQ(server->listings, 1);  // no extra poll
+    EXPECT_FALSE(hasLogLine("[Test] System woke up \u2014 resuming sync"));
+    EXPECT_FALSE(hasLogLine("[Test] System going to sleep \u2014 pausing sync timer"));
+}
+
+TEST_F(EngineStateTest, OutsideTheScheduleAPollOnlyShowsTheWindow) {
+    config.scheduleEnabled = true;
+    config.scheduleStartHour = 22;
+    config.scheduleEndHour = 6;
+    loop.setLocalTime(2024, 3, 7, 21, 30);  // a Thursday
+    auto engine = makeEngine();
+    engine->start();
+    loop.advance(30s);
+    EXPECT_EQ(server->listings, 0);
+    EXPECT_EQ(engine->connectionState()(), ConnectionState::idle);
+    EXPECT_EQ(engine->statusText()(), "Scheduled 22:00\u20136:00");
+    EXPECT_FALSE(engine->syncInProgress());
+    loop.advance(30min);  // 22:00 and after: inside, polls list again
+    EXPECT_GT(server->listings, 0);
+}
+
+TEST_F(EngineStateTest, AFolderThatCannotBeMadeFailsThePollBeforeListing) {
+    config.localPath = "/proc/version/inbox";  // a file stands where the folder would go
+    settings.setNotificationsEnabled(true);
+    auto engine = makeEngine();
+    engine->start();
+    loop.advance(30s);
+    EXPECT_EQ(server->listings, 0);
+    EXPECT_EQ(engine->connectionState()(), ConnectionState::error);
+    EXPECT_EQ(engine->statusText()(), "Folder error");
+    EXPECT_TRUE(hasLogLine("ERR [Test] Cannot write to '/proc/version/inbox'. Check folder "
+                           "permissions in Finder > Get Info."));
+    ASSERT_EQ(notifier.posted.size(), 1u);
+    EXPECT_EQ(notifier.posted[0].identifier, "folder-Test");
+    EXPECT_FALSE(engine->syncInProgress());
+    loop.advance(30s);  // the timer goes on: the next fire tries again
+    EXPECT_EQ(notifier.posted.size(), 2u);
+}
+
+TEST_F(EngineStateTest, TooLittleFreeSpaceFailsEvenWithTheWarningOff) {
+    settings.setDiskSpaceThresholdGB(1 << 30);  // more than any disk here
+    auto engine = makeEngine();
+    EXPECT_EQ(engine->checkLocalFolder()->kind(), FTPError::Kind::insufficientDiskSpace);
+    settings.setDiskSpaceWarningEnabled(false);  // a 1 GB floor stays, which this disk has
+    EXPECT_FALSE(engine->checkLocalFolder().has_value());
+    config.localPath.clear();  // no folder: no test at all
+    EXPECT_FALSE(makeEngine()->checkLocalFolder().has_value());
+}
+
+TEST_F(EngineStateTest, FailedListingsCountUpToTheErrorLimitAndRecover) {
+    settings.setNotificationsEnabled(true);
+    settings.setNotifyErrorsAfterAttempts(3);
+    server->failListingWith = FTPError::curlExitCode(7, "Failed to connect");
+    auto engine = makeEngine();
+    engine->start();
+    loop.advance(30s);
+    EXPECT_EQ(engine->statusText()(), "Retrying (1/3)...");
+    EXPECT_EQ(engine->connectionState()(), ConnectionState::error);
+    loop.advance(30s);
+    EXPECT_EQ(engine->statusText()(), "Retrying (2/3)...");
+    EXPECT_TRUE(notifier.posted.empty());
+    loop.advance(30s);
+    EXPECT_EQ(engine->statusText()(), "Error");
+    EXPECT_TRUE(hasLogLine("ERR [Test] Sync failed (3/3): Could not connect to server. Check the "
+                           "host, port, and that the server is running."));
+    ASSERT_EQ(notifier.posted.size(), 1u);
+    EXPECT_EQ(notifier.posted[0].identifier, "error-Test");
+    loop.advance(30s);
+    EXPECT_TRUE(hasLogLine("ERR [Test] Sync failed (4/3): Could not connect"));
+
+    server->failListingWith.reset();
+    loop.advance(30s);
+    EXPECT_EQ(engine->statusText()(), "Connected");
+    server->failListingWith = FTPError::curlExitCode(7, "Failed to connect");
+    loop.advance(30s);
+    EXPECT_EQ(engine->statusText()(), "Retrying (1/3)...");  // the count started over
+}
+
+TEST_F(EngineStateTest, FilesSettleOverPollsAndFilteredOnesAreNeverTracked) {
+    config.requiredStableChecks = 2;
+    config.minFileSize = 10;
+    server->files = {{"a.jpg", std::string(100, 'a')},
+                     {"tiny.jpg", "123"},
+                     {"empty.jpg", ""},
+                     {"b.jpg.tarnel-partial", std::string(50, 'b')},
+                     {"x.tmp", std::string(50, 'x')}};
+    auto engine = makeEngine();
+    std::vector<FTPFileEntry> listing;
+    for (auto& [name, content] : server->files)
+        listing.push_back({name, static_cast<std::int64_t>(content.size()), false, ""});
+
+    // Sizes 100, 200, 200, 200: the count goes 0, 0, 1, 2 and the fourth pass returns it.
+    EXPECT_TRUE(engine->updateStability({{"a.jpg", 100, false, ""}}).empty());
+    EXPECT_TRUE(engine->updateStability({{"a.jpg", 200, false, ""}}).empty());
+    EXPECT_TRUE(engine->updateStability({{"a.jpg", 200, false, ""}}).empty());
+    auto stable = engine->updateStability({{"a.jpg", 200, false, ""}});
+    ASSERT_EQ(stable.size(), 1u);
+    EXPECT_EQ(stable[0].stableCount, 2);
+    EXPECT_EQ(engine->trackedSnapshots()().at(0).isGrowing, false);
+
+    // Vanishing for one pass forgets it: it comes back new.
+    engine->updateStability({});
+    EXPECT_EQ(engine->trackedFileCount()(), 0);
+    engine->updateStability({{"a.jpg", 200, false, ""}});
+    EXPECT_EQ(countLogLines("[Test] New: a.jpg (200 bytes)"), 2);
+
+    // Through a poll: the filters keep a.jpg and empty.jpg (size 0 passes every minimum).
+    engine->start();
+    loop.advance(30s);
+    std::vector<std::string> names;
+    for (auto& s : engine->trackedSnapshots()()) names.push_back(s.name);
+    EXPECT_EQ(names, (std::vector<std::string>{"a.jpg", "empty.jpg"}));
+}
+
+TEST_F(EngineStateTest, TwoFoldersWithOneNameGiveTwoKeysAndDownloadedFilesAreSkipped) {
+    config.requiredStableChecks = 0;
+    config.deleteAfterDownload = false;
+    markDownloaded("x/a.txt", 10);
+    auto engine = makeEngine();
+    auto stable = engine->updateStability(
+        {{"a.txt", 10, false, "x/a.txt"}, {"a.txt", 10, false, "y/a.txt"}});
+    ASSERT_EQ(stable.size(), 1u);  // x/a.txt|10 was fetched before
+    EXPECT_EQ(stable[0].relativePath, "y/a.txt");
+    // Another size is another file.
+    stable = engine->updateStability({{"a.txt", 11, false, "x/a.txt"}, {"a.txt", 10, false, "y/a.txt"}});
+    EXPECT_EQ(stable.size(), 2u);
+}
+
+}  // namespace
+}  // namespace tarnel::testing

@@ -1,0 +1,52 @@
+#include "memory_remote.h"
+
+#include <fstream>
+
+namespace tarnel::testing {
+
+Task<std::vector<FTPFileEntry>> MemoryRemote::listFiles() {
+    auto server = server_;
+    ++server->listings;
+    server->maxListingsInFlight = std::max(server->maxListingsInFlight, ++server->listingsInFlight);
+    if (server->listingDelay.count() > 0) co_await delay(loop_, server->listingDelay);
+    --server->listingsInFlight;
+    if (server->failListingWith) throw *server->failListingWith;
+    std::vector<FTPFileEntry> out;
+    for (const auto& [name, content] : server->files)
+        out.push_back({name, static_cast<std::int64_t>(content.size()), false, ""});
+    co_return out;
+}
+
+Task<std::vector<FTPFileEntry>> MemoryRemote::listFilesAtPath(std::string) {
+    co_return co_await listFiles();
+}
+
+Task<std::vector<FTPFileEntry>> MemoryRemote::collectFiles(std::string, int,
+                                                           std::optional<std::vector<std::string>>) {
+    auto rows = co_await listFiles();
+    for (auto& r : rows) r.relativePath = r.name;
+    co_return rows;
+}
+
+Task<void> MemoryRemote::downloadFile(std::string name, std::filesystem::path to,
+                                      std::int64_t resumeFrom, ProgressCallback onProgress,
+                                      std::optional<std::string>) {
+    auto it = server_->files.find(name);
+    if (it == server_->files.end()) throw FTPError::curlExitCode(78, "no such file");
+    std::ofstream out(to, resumeFrom > 0 ? std::ios::app | std::ios::binary : std::ios::binary);
+    out << it->second.substr(static_cast<std::size_t>(resumeFrom));
+    const auto total = static_cast<std::int64_t>(it->second.size());
+    if (onProgress) onProgress(total, total);
+    co_return;
+}
+
+Task<void> MemoryRemote::deleteFile(std::string name) {
+    server_->files.erase(name);
+    co_return;
+}
+
+Task<void> MemoryRemote::deleteDirectory(std::string) {
+    co_return;
+}
+
+}  // namespace tarnel::testing

@@ -1,0 +1,140 @@
+#include <gtest/gtest.h>
+
+#include "connections/connection_config_json.h"
+#include "engine_fixture.h"
+#include "fleet/connections_manager.h"
+
+namespace tarnel::testing {
+namespace {
+
+using namespace std::chrono_literals;
+
+// The manager over remotes in memory, one server per host name.
+struct ManagerTest : EngineFixture {
+    std::map<std::string, std::shared_ptr<MemoryServer>> servers;
+
+    FleetServices fleetServices() {
+        return {runtime,      settingsStore, settings,
+                logService,   stats,         history,
+                notifications, sleepMonitor, soundPlayer,
+                dir / "partials-fleet.json", dir / "known_hosts"};
+    }
+
+    std::shared_ptr<ConnectionsManager> makeManager() {
+        return std::make_shared<ConnectionsManager>(
+            fleetServices(), [this](const ConnectionConfig& c) -> std::unique_ptr<RemoteService> {
+                auto& s = servers[c.host];
+                if (!s) s = std::make_shared<MemoryServer>();
+                return std::make_unique<MemoryRemote>(loop, s);
+            });
+    }
+
+    ConnectionConfig connection(const std::string& name, const std::string& host) {
+        ConnectionConfig c = config;
+        c.id = Uuid::random();
+        c.name = name;
+        c.host = host;
+        return c;
+    }
+
+    void store(const std::vector<ConnectionConfig>& list) {
+        settingsStore.setValue(ConnectionsManager::storageKey, encodeConnectionList(list));
+    }
+};
+
+TEST_F(ManagerTest, OnlyEnabledConnectionsWithAHostGetAnEngine) {
+    auto disabled = connection("Off", "off.example");
+    disabled.enabled = false;
+    auto hostless = connection("NoHost", "");
+    store({disabled, hostless});
+    auto manager = makeManager();
+    ASSERT_EQ(manager->connections()().size(), 2u);
+    manager->startAll();
+    EXPECT_TRUE(manager->engines().empty());
+    EXPECT_FALSE(manager->hasActiveEngines()());
+    EXPECT_EQ(manager->aggregateState()(), ConnectionState::idle);
+    loop.advance(60s);
+    EXPECT_TRUE(servers.empty());  // nobody was ever listed
+}
+
+TEST_F(ManagerTest, TheWorstEngineStateIsTheFleetsAndDownloadsDoNotHideIt) {
+    auto a = connection("A", "a"), b = connection("B", "b");
+    store({a, b});
+    auto manager = makeManager();
+    manager->startAll();
+    EXPECT_TRUE(manager->hasActiveEngines()());
+    servers["a"]->failListingWith = FTPError::curlExitCode(7, "");
+    servers["b"]->listingDelay = 20s;
+    loop.advance(30s);  // A has failed, B is still listing
+    EXPECT_EQ(manager->engines().at(b.id)->connectionState()(), ConnectionState::syncing);
+    EXPECT_EQ(manager->aggregateState()(), ConnectionState::error);
+    servers["a"]->failListingWith.reset();
+    loop.advance(30s);  // A connected at 60 s, B still listing until 80 s
+    EXPECT_EQ(manager->aggregateState()(), ConnectionState::syncing);
+    loop.advance(25s);
+    EXPECT_EQ(manager->aggregateState()(), ConnectionState::connected);
+}
+
+TEST_F(ManagerTest, PauseAndResumeActOnTheWholeFleet) {
+    auto a = connection("A", "a"), b = connection("B", "b");
+    b.autoConnectOnLaunch = false;
+    store({a, b});
+    auto manager = makeManager();
+    manager->startAll();
+    EXPECT_TRUE(manager->engines().at(b.id)->isPaused()());  // came up paused
+    EXPECT_FALSE(manager->aggregatePaused()());
+
+    manager->pauseAll();
+    EXPECT_TRUE(manager->aggregatePaused()());
+    loop.advance(60s);
+    EXPECT_EQ(servers["a"]->listings, 0);
+
+    // syncAllNow does not skip paused engines; their own poll decides.
+    manager->syncAllNow();
+    loop.runUntilIdle();
+    EXPECT_EQ(servers["a"]->listings, 1);
+    EXPECT_EQ(servers["b"]->listings, 1);
+
+    manager->resumeAll();  // also wakes the one that came up paused
+    EXPECT_FALSE(manager->aggregatePaused()());
+    for (auto& [id, engine] : manager->engines()) EXPECT_FALSE(engine->isPaused()());
+
+    manager->stopAll();
+    EXPECT_TRUE(manager->engines().empty());
+    loop.advance(120s);
+    EXPECT_EQ(servers["a"]->listings, 2);  // the resume's own poll, then nothing
+}
+
+TEST_F(ManagerTest, PauseAllWithNoEnginesHoldsUntilTheNextRecomputation) {
+    auto manager = makeManager();
+    manager->pauseAll();
+    EXPECT_TRUE(manager->aggregatePaused()());
+    EXPECT_FALSE(manager->hasActiveEngines()());
+}
+
+TEST_F(ManagerTest, AListThatLacksKeysIsWrittenBackInFullAndABadOneIsReplacedOnSave) {
+    // A record with only its required keys.
+    settingsStore.setValue(ConnectionsManager::storageKey,
+                           std::string(R"([{"id":"6F2D3C0A-1B2C-4D5E-8F90-A1B2C3D4E5F6","name":"Old",)"
+                                       R"("enabled":true,"transferProtocol":"SFTP","host":"h","port":22,)"
+                                       R"("username":"u","password":"p","remotePath":"/in","localPath":"",)"
+                                       R"("pollInterval":30,"requiredStableChecks":2,"extensionFilter":"",)"
+                                       R"("extensionFilterExclude":false,"deleteAfterDownload":true}])"));
+    {
+        auto manager = makeManager();
+        ASSERT_EQ(manager->connections()().size(), 1u);
+        EXPECT_EQ(manager->connections()()[0].maxConcurrentDownloads, 4);
+    }
+    auto stored = settingsStore.stringValue(ConnectionsManager::storageKey);
+    EXPECT_NE(stored->find("\"maxConcurrentDownloads\":4"), std::string::npos);
+
+    settingsStore.setValue(ConnectionsManager::storageKey, std::string("[{\"id\":1}]"));
+    auto manager = makeManager();
+    EXPECT_TRUE(manager->connections()().empty());
+    EXPECT_EQ(settingsStore.stringValue(ConnectionsManager::storageKey), "[{\"id\":1}]");
+    manager->saveConnections();
+    EXPECT_EQ(settingsStore.stringValue(ConnectionsManager::storageKey), "[]");
+}
+
+}  // namespace
+}  // namespace tarnel::testing
