@@ -1,0 +1,300 @@
+// The engine end to end against real servers: polls on virtual time, transfers for real.
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "engine/ftp_remote_service.h"
+#include "engine/md5.h"
+#include "engine_fixture.h"
+#include "servers/test_server.h"
+#include "transfer/curl_transfer_client.h"
+#include "transfer/ftp_service.h"
+
+namespace tarnel::testing {
+namespace {
+
+using namespace std::chrono_literals;
+namespace fs = std::filesystem;
+
+struct EngineTransferTest : EngineFixture, ::testing::WithParamInterface<ServerProtocol> {
+    std::unique_ptr<TestServer> ftp;
+
+    TestServer& startServer(ServerProtocol protocol = ServerProtocol::ftp) {
+        ftp = std::make_unique<TestServer>(ServerOptions{protocol, dir / "server"});
+        const auto served = ftp->connectionConfig();
+        config.transferProtocol = served.transferProtocol;
+        config.host = served.host;
+        config.port = served.port;
+        config.username = served.username;
+        config.password = served.password;
+        config.allowSelfSignedCerts = served.allowSelfSignedCerts;
+        config.remotePath = "/";
+        config.pollInterval = 10;
+        config.requiredStableChecks = 1;
+        return *ftp;
+    }
+
+    std::shared_ptr<SyncEngine> makeServerEngine() {
+        auto client = std::make_unique<CurlTransferClient>(config, dir / "known_hosts");
+        auto service = std::make_unique<FTPService>(config, logService, std::move(client));
+        return std::make_shared<SyncEngine>(
+            config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
+            std::make_unique<DownloadTracker>(settingsStore, config.id.toString()),
+            engineServices());
+    }
+
+    void serve(const std::string& path, const std::string& content) {
+        fs::path file = ftp->root() / path;
+        fs::create_directories(file.parent_path());
+        std::ofstream(file, std::ios::binary) << content;
+    }
+
+    static std::string readFile(const fs::path& file) {
+        std::ifstream in(file, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+
+    // Every file below `root`, as relative paths.
+    static std::vector<std::string> filesBelow(const fs::path& root) {
+        std::vector<std::string> out;
+        std::error_code ec;
+        for (auto it = fs::recursive_directory_iterator(root, ec); it != fs::recursive_directory_iterator(); ++it)
+            if (it->is_regular_file()) out.push_back(fs::relative(it->path(), root).string());
+        std::sort(out.begin(), out.end());
+        return out;
+    }
+
+    // A file of `size` bytes that no two offsets repeat in, so any misplaced byte shows.
+    static std::string pattern(std::size_t size) {
+        std::string s(size, '\0');
+        for (std::size_t i = 0; i < size; ++i) s[i] = static_cast<char>((i * 7919 + i / 251) & 0xFF);
+        return s;
+    }
+};
+
+TEST_P(EngineTransferTest, AGrowingFileIsFetchedOnceSettledIntoItsDatedRenamedPlace) {
+    auto& server = startServer(GetParam());
+    config.requiredStableChecks = 2;
+    config.organizeByConnection = true;
+    config.organizeByDate = true;
+    config.renamePattern = "{counter}_{original}";
+    loop.setLocalTime(2024, 3, 7, 14, 5);
+    const std::string full = pattern(300'000);
+    serve("photo.raw", full.substr(0, 100'000));
+    auto engine = makeServerEngine();
+    engine->start();
+
+    loop.advance(10s);  // seen: count 0
+    serve("photo.raw", full.substr(0, 200'000));
+    loop.advance(10s);  // grew: count 0 again
+    serve("photo.raw", full);
+    loop.advance(10s);  // grew
+    loop.advance(10s);  // count 1
+    EXPECT_TRUE(fs::exists(server.root() / "photo.raw"));
+    EXPECT_TRUE(filesBelow(dir / "inbox").empty());
+    loop.advance(10s);  // count 2: stable, fetched, deleted on the server
+
+    const fs::path placed = dir / "inbox" / "Test" / "2024" / "03" / "07" / "001_photo.raw";
+    ASSERT_TRUE(fs::exists(placed)) << ::testing::PrintToString(filesBelow(dir / "inbox"));
+    EXPECT_EQ(readFile(placed), full);
+    EXPECT_FALSE(fs::exists(server.root() / "photo.raw"));
+    EXPECT_EQ(filesBelow(dir / "inbox").size(), 1u);  // no temporary file left
+    EXPECT_TRUE(hasLogLine("OK [Test] Moved: photo.raw \u2192 "));
+    EXPECT_TRUE(hasLogLine("[Test] Renamed: photo.raw \u2192 001_photo.raw"));
+    EXPECT_EQ(engine->totalTransferred()(), 1);
+    EXPECT_EQ(engine->trackedFileCount()(), 0);
+    EXPECT_EQ(stats.totalFiles(), 1);
+    ASSERT_EQ(history.entries()().size(), 1u);
+    EXPECT_EQ(history.entries()()[0].finalFilename, "001_photo.raw");
+    EXPECT_FALSE(partials.partial("photo.raw").has_value());
+}
+
+INSTANTIATE_TEST_SUITE_P(Protocols, EngineTransferTest,
+                         ::testing::Values(ServerProtocol::ftp, ServerProtocol::ftps,
+                                           ServerProtocol::sftp),
+                         [](const auto& info) {
+                             return std::string(info.param == ServerProtocol::ftp    ? "FTP"
+                                                : info.param == ServerProtocol::ftps ? "FTPS"
+                                                                                     : "SFTP");
+                         });
+
+struct EngineTransferFtpTest : EngineTransferTest {};
+
+TEST_F(EngineTransferFtpTest, TakenNamesGetNumbersAndFoldersFollowTheOrganisation) {
+    startServer();
+    config.requiredStableChecks = 0;
+    config.exploreSubdirectories = true;
+    config.subdirectoryOrganization = SubdirectoryOrganization::customPerFolder;
+    config.customFolderMappings = {{"/jobs/acme", (dir / "acme").string()}};
+    serve("jobs/acme/a.pdf", "acme");
+    serve("jobs/other/b.pdf", "other");
+    serve("report.pdf", "new report");
+    fs::create_directories(dir / "inbox");
+    std::ofstream(dir / "inbox" / "report.pdf") << "old";
+    auto engine = makeServerEngine();
+    engine->start();
+    loop.advance(10s);
+
+    EXPECT_EQ(readFile(dir / "acme" / "a.pdf"), "acme");              // the mapping, whole
+    EXPECT_EQ(readFile(dir / "inbox" / "jobs" / "other" / "b.pdf"), "other");  // mirrored
+    EXPECT_EQ(readFile(dir / "inbox" / "report.pdf"), "old");           // never overwritten
+    EXPECT_EQ(readFile(dir / "inbox" / "report (1).pdf"), "new report");
+    EXPECT_TRUE(filesBelow(ftp->root()).empty());
+}
+
+TEST_F(EngineTransferFtpTest, ACutResumeIsResumedAgainAndAChangedFileIsFetchedWhole) {
+    auto& server = startServer();
+    config.requiredStableChecks = 0;
+    const std::string content = pattern(400'000);
+    serve("big.bin", content);
+    // What a run that died at 100 KB left behind.
+    fs::create_directories(dir / "inbox");
+    std::ofstream(dir / "inbox" / "big.bin.tarnel-partial", std::ios::binary) << content.substr(0, 100'000);
+    const auto then = loop.now();
+    partials.record({"big.bin", (dir / "inbox" / "big.bin.tarnel-partial").string(), 400'000,
+                     100'000, config.id.toString(), then, then, 0});
+
+    server.cutTransfersAfter(150'000);  // the resumed attempt is cut too: its bytes stay
+    auto engine = makeServerEngine();
+    engine->start();
+    loop.advance(10s);
+    EXPECT_TRUE(hasLogLine("[Test] Resuming: big.bin from 100 KB (attempt 1/5)"));
+    EXPECT_TRUE(hasLogLine("ERR [Test] Failed: big.bin"));
+    EXPECT_EQ(fs::file_size(dir / "inbox" / "big.bin.tarnel-partial"), 250'000u);
+
+    server.cutTransfersAfter(std::nullopt);
+    loop.advance(10s);
+    EXPECT_TRUE(hasLogLine("[Test] Resuming: big.bin from 250 KB (attempt 2/5)"));
+    EXPECT_TRUE(hasLogLine("[Test] Verified (resumed): big.bin"));
+    EXPECT_EQ(readFile(dir / "inbox" / "big.bin"), content);
+
+    // A partial of a file that has since changed on the server is dropped, not resumed.
+    const std::string changed = pattern(500'000);
+    serve("next.bin", changed);
+    std::ofstream(dir / "inbox" / "next.bin.tarnel-partial", std::ios::binary) << content.substr(0, 50'000);
+    partials.record({"next.bin", (dir / "inbox" / "next.bin.tarnel-partial").string(), 400'000,
+                     50'000, config.id.toString(), then, then, 0});
+    loop.advance(10s);
+    EXPECT_TRUE(hasLogLine("[Test] Remote file changed, discarding partial: next.bin"));
+    EXPECT_EQ(readFile(dir / "inbox" / "next.bin"), changed);
+    EXPECT_EQ(filesBelow(dir / "inbox"), (std::vector<std::string>{"big.bin", "next.bin"}));
+}
+
+TEST_F(EngineTransferFtpTest, SizeMismatchEmptyFilesAndRefusedDeletes) {
+    auto& server = startServer();
+    config.requiredStableChecks = 0;
+    config.maxRetries = 10;
+    serve("grows.csv", "1234567890");
+    serve("empty.txt", "");
+    server.growOnNextDownload("grows.csv", "abc");  // changes between listing and download
+    auto engine = makeServerEngine();
+    engine->start();
+    loop.advance(10s);
+    EXPECT_TRUE(hasLogLine("ERR [Test] Size mismatch: grows.csv \u2014 remote: 10 bytes, local: 13 bytes"));
+    EXPECT_TRUE(hasLogLine("ERR [Test] Empty file after download: empty.txt"));
+    EXPECT_TRUE(hasLogLine("WARN [Test] Will retry grows.csv in 5s (attempt 1/10)"));
+    EXPECT_FALSE(fs::exists(dir / "inbox" / "empty.txt.tarnel-partial"));
+
+    // The listing now gives 13: the count restarts, the bigger partial is dropped, all fetched.
+    loop.advance(10s);
+    loop.advance(10s);
+    EXPECT_EQ(readFile(dir / "inbox" / "grows.csv"), "1234567890abc");
+
+    // A refused delete is still a success, and the file comes back as new.
+    server.refuseDeletes(true);
+    serve("keep.txt", "k");
+    loop.advance(10s);
+    EXPECT_TRUE(hasLogLine("WARN [Test] Downloaded OK but delete failed: keep.txt"));
+    EXPECT_TRUE(fs::exists(dir / "inbox" / "keep.txt"));
+    loop.advance(10s);
+    EXPECT_TRUE(fs::exists(dir / "inbox" / "keep (1).txt"));
+    EXPECT_GE(countLogLines("New: keep.txt"), 2);
+}
+
+TEST_F(EngineTransferFtpTest, AListingThatFailsThreeTimesShowsErrorAndRecovers) {
+    auto& server = startServer();
+    settings.setNotificationsEnabled(true);
+    server.stop();
+    auto engine = makeServerEngine();
+    engine->start();
+    loop.advance(10s);
+    EXPECT_EQ(engine->statusText()(), "Retrying (1/3)...");
+    loop.advance(10s);
+    EXPECT_EQ(engine->statusText()(), "Retrying (2/3)...");
+    loop.advance(10s);
+    EXPECT_EQ(engine->statusText()(), "Error");
+    EXPECT_TRUE(hasLogLine("ERR [Test] Sync failed (3/3): Could not connect to server."));
+    ASSERT_EQ(notifier.posted.size(), 1u);
+    EXPECT_EQ(notifier.posted[0].title, "Tarnel: Connection error");
+    server.start();
+    loop.advance(10s);
+    EXPECT_EQ(engine->statusText()(), "Connected");
+    EXPECT_EQ(engine->connectionState()(), ConnectionState::connected);
+}
+
+TEST_F(EngineTransferFtpTest, RetriesRunOutIntoHistoryAndANotificationThenTheCycleStartsAgain) {
+    auto& server = startServer();
+    settings.setNotificationsEnabled(true);
+    config.requiredStableChecks = 0;
+    config.maxRetries = 3;
+    serve("bad.zip", pattern(50'000));
+    server.cutTransfersAfter(1000);
+    auto engine = makeServerEngine();
+    engine->start();
+    loop.advance(10s);
+    EXPECT_TRUE(hasLogLine("WARN [Test] Will retry bad.zip in 5s (attempt 1/3)"));
+    loop.advance(10s);
+    EXPECT_TRUE(hasLogLine("WARN [Test] Will retry bad.zip in 15s (attempt 2/3)"));
+    loop.advance(10s);
+    EXPECT_TRUE(hasLogLine("ERR [Test] Retry exhausted for bad.zip after 3 attempts"));
+    ASSERT_EQ(history.entries()().size(), 1u);
+    EXPECT_EQ(history.entries()()[0].status, TransferStatus::retryExhausted);
+    ASSERT_EQ(notifier.posted.size(), 1u);
+    EXPECT_EQ(notifier.posted[0].body, "[Test] bad.zip failed after 3 attempts");
+    loop.advance(10s);
+    EXPECT_EQ(countLogLines("[Test] New: bad.zip"), 2);  // a new cycle
+    EXPECT_FALSE(fs::exists(dir / "inbox" / "bad.zip"));
+}
+
+TEST_F(EngineTransferFtpTest, WithoutDeleteAFileIsFetchedOnceAcrossRestartsAndAgainWhenItChanges) {
+    startServer();
+    config.requiredStableChecks = 0;
+    config.deleteAfterDownload = false;
+    serve("list.csv", "v1");
+    {
+        auto engine = makeServerEngine();
+        engine->start();
+        loop.advance(30s);
+        engine->stop();
+    }
+    EXPECT_EQ(readFile(dir / "inbox" / "list.csv"), "v1");
+    {
+        auto engine = makeServerEngine();  // a new engine remembers through the settings
+        engine->start();
+        loop.advance(30s);
+        EXPECT_FALSE(fs::exists(dir / "inbox" / "list (1).csv"));
+        serve("list.csv", "v2-longer");
+        loop.advance(20s);
+        EXPECT_EQ(readFile(dir / "inbox" / "list (1).csv"), "v2-longer");
+        engine->stop();
+    }
+    EXPECT_TRUE(fs::exists(ftp->root() / "list.csv"));
+}
+
+// Names no real file system lets a server hold, served from memory.
+TEST_F(EngineTransferFtpTest, HostileNamesNeverWriteOutsideTheDestination) {
+    config.requiredStableChecks = 0;
+    config.localPath = (dir / "deep" / "inbox").string();
+    server->files = {{"../escape.txt", "x"}, {"a/../../b.txt", "y"}, {"fine.txt", "z"}};
+    auto engine = makeEngine();
+    engine->start();
+    loop.advance(30s);
+    EXPECT_EQ(filesBelow(dir / "deep"), (std::vector<std::string>{"inbox/fine.txt"}));
+    EXPECT_FALSE(fs::exists(dir / "escape.txt"));
+    EXPECT_FALSE(fs::exists(dir / "deep" / "b.txt"));
+    EXPECT_TRUE(hasLogLine("WARN [Test] Refused ../escape.txt"));
+    EXPECT_TRUE(server->files.contains("../escape.txt"));  // left on the server
+}
+
+}  // namespace
+}  // namespace tarnel::testing
