@@ -4,10 +4,12 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "connections/routing_rule.h"
 #include "platform/clock.h"
+#include "platform/localized.h"
 #include "platform/uuid.h"
 
 namespace tarnel {
@@ -23,7 +25,7 @@ inline constexpr const char* defaultExcludedExtensions =
 // and the transfer service each hold their own copy. Fields in their stored order.
 struct ConnectionConfig {
     Uuid id = Uuid::random();
-    std::string name = "New Connection";
+    std::string name = localized("New Connection");
     bool enabled = true;
     TransferProtocol transferProtocol = TransferProtocol::ftp;
     std::string host;
@@ -82,9 +84,20 @@ struct ConnectionConfig {
     bool isWithinSchedule(const Clock& clock) const;
     // "Scheduled 8:00–20:00" while outside the window, nothing otherwise.
     std::optional<std::string> scheduleStatusText(const Clock& clock) const;
+
+    // Whether a listed file is wanted at all: an excluded entry refuses it, then an included
+    // one takes it, and a file in neither list gets `downloadUnspecifiedExtensions`. An entry
+    // matches the file's extension or its whole name, case aside. Safe on any thread.
+    bool shouldDownload(std::string_view filename) const;
 };
 
 // "FTP", "SFTP" or "FTPS": the stored raw value and the word shown to users.
 const char* protocolName(TransferProtocol p);
+
+// The port the editor sets when the protocol is chosen: FTPS keeps FTP's, TLS being explicit.
+int defaultPort(TransferProtocol p);
+
+// "Mirror remote structure" and its kin, as the editor's picker shows them.
+std::string displayText(SubdirectoryOrganization organization);
 
 }  // namespace tarnel

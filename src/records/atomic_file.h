@@ -1,0 +1,18 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tarnel {
+
+// Replaces `file` by `contents` through a temporary file beside it and a rename, so that a crash
+// leaves the old file or the new one, never a cut-short mix. Creates the folder if needed.
+// Returns false on any failure; the stores that call it drop that, as they never report one.
+bool replaceFileAtomically(const std::filesystem::path& file, std::string_view contents);
+
+// The whole file, or nothing if it cannot be read.
+std::optional<std::string> readWholeFile(const std::filesystem::path& file);
+
+}  // namespace tarnel

@@ -1,0 +1,170 @@
+#include "records/partial_download_tracker.h"
+
+#include <nlohmann/json.hpp>
+#include <system_error>
+
+#include "records/atomic_file.h"
+
+namespace tarnel {
+
+namespace {
+
+const SystemClock wallClock;
+
+nlohmann::json toJson(const PartialDownload& p) {
+    return {{"remotePath", p.remotePath},
+            {"localTempPath", p.localTempPath},
+            {"expectedSize", p.expectedSize},
+            {"downloadedBytes", p.downloadedBytes},
+            {"connectionId", p.connectionId},
+            {"startedAt", toReferenceSeconds(p.startedAt)},
+            {"lastResumedAt", toReferenceSeconds(p.lastResumedAt)},
+            {"resumeAttempts", p.resumeAttempts}};
+}
+
+// Every key is required: a record that lacks one makes the whole file unreadable.
+PartialDownload fromJson(const nlohmann::json& j) {
+    PartialDownload p;
+    p.remotePath = j.at("remotePath").get<std::string>();
+    p.localTempPath = j.at("localTempPath").get<std::string>();
+    p.expectedSize = j.at("expectedSize").get<std::int64_t>();
+    p.downloadedBytes = j.at("downloadedBytes").get<std::int64_t>();
+    p.connectionId = j.at("connectionId").get<std::string>();
+    p.startedAt = fromReferenceSeconds(j.at("startedAt").get<double>());
+    p.lastResumedAt = fromReferenceSeconds(j.at("lastResumedAt").get<double>());
+    p.resumeAttempts = j.at("resumeAttempts").get<int>();
+    return p;
+}
+
+std::map<std::string, PartialDownload> load(const std::filesystem::path& file) {
+    std::map<std::string, PartialDownload> partials;
+    auto text = readWholeFile(file);
+    if (!text)
+        return partials;
+    try {
+        for (const auto& item : nlohmann::json::parse(*text)) {
+            auto p = fromJson(item);
+            partials.insert_or_assign(p.remotePath, std::move(p));
+        }
+    } catch (const nlohmann::json::exception&) {
+        partials.clear();  // unreadable: start empty, the next save replaces the file
+    }
+    return partials;
+}
+
+}  // namespace
+
+PartialDownloadTracker::PartialDownloadTracker(std::filesystem::path partialsFile,
+                                               const Clock* clock)
+    : file_(std::move(partialsFile)),
+      clock_(clock ? *clock : wallClock),
+      partials_(load(file_)),
+      lastWrite_(clock_.now()) {}
+
+PartialDownloadTracker::~PartialDownloadTracker() {
+    std::lock_guard lock(mutex_);
+    if (unsaved_)
+        saveLocked();
+}
+
+void PartialDownloadTracker::flush() {
+    std::unique_lock lock(mutex_);
+    saveAndWait(lock);
+}
+
+void PartialDownloadTracker::saveLocked() {
+    auto array = nlohmann::json::array();
+    for (const auto& [key, p] : partials_)
+        array.push_back(toJson(p));
+    lastWrite_ = clock_.now();
+    unsaved_ = false;
+    // Queued under the lock, so snapshots reach the disk in the order they were taken.
+    queue_.async([file = file_, text = array.dump()] { replaceFileAtomically(file, text); });
+}
+
+void PartialDownloadTracker::saveAndWait(std::unique_lock<std::mutex>& lock) {
+    saveLocked();
+    lock.unlock();
+    queue_.drain();
+}
+
+void PartialDownloadTracker::record(const PartialDownload& partial) {
+    std::unique_lock lock(mutex_);
+    partials_.insert_or_assign(partial.remotePath, partial);
+    saveAndWait(lock);
+}
+
+std::optional<PartialDownload> PartialDownloadTracker::partial(
+    const std::string& remotePath) const {
+    std::lock_guard lock(mutex_);
+    auto it = partials_.find(remotePath);
+    if (it == partials_.end())
+        return std::nullopt;
+    return it->second;
+}
+
+void PartialDownloadTracker::updateProgress(const std::string& remotePath, std::int64_t bytes) {
+    std::lock_guard lock(mutex_);
+    auto it = partials_.find(remotePath);
+    if (it == partials_.end())
+        return;
+    it->second.downloadedBytes = bytes;
+    it->second.lastResumedAt = clock_.now();
+    unsaved_ = true;
+    if (clock_.now() - lastWrite_ >= progressWriteInterval)
+        saveLocked();
+}
+
+void PartialDownloadTracker::incrementResumeAttempts(const std::string& remotePath) {
+    std::unique_lock lock(mutex_);
+    auto it = partials_.find(remotePath);
+    if (it == partials_.end())
+        return;
+    it->second.resumeAttempts += 1;
+    it->second.lastResumedAt = clock_.now();
+    saveAndWait(lock);
+}
+
+void PartialDownloadTracker::remove(const std::string& remotePath) {
+    std::unique_lock lock(mutex_);
+    if (partials_.erase(remotePath) == 0)
+        return;
+    saveAndWait(lock);
+}
+
+void PartialDownloadTracker::discard(const std::string& remotePath) {
+    std::unique_lock lock(mutex_);
+    auto it = partials_.find(remotePath);
+    if (it == partials_.end())
+        return;
+    std::error_code ignored;  // a file that stays is swept as an orphan at the next start
+    std::filesystem::remove(it->second.localTempPath, ignored);
+    partials_.erase(it);
+    saveAndWait(lock);
+}
+
+std::vector<std::filesystem::path> PartialDownloadTracker::orphanedFiles(
+    const std::filesystem::path& directory) const {
+    std::vector<std::filesystem::path> candidates;
+    std::error_code ec;
+    for (std::filesystem::directory_iterator it(directory, ec), end; !ec && it != end;
+         it.increment(ec)) {
+        const auto& path = it->path();
+        const auto name = path.filename().string();
+        if (!name.starts_with(".") && path.extension() == ".tarnel-partial")
+            candidates.push_back(path);
+    }
+    if (ec)
+        return {};
+
+    std::lock_guard lock(mutex_);
+    std::erase_if(candidates, [&](const std::filesystem::path& path) {
+        for (const auto& [key, p] : partials_)
+            if (p.localTempPath == path.string())
+                return true;
+        return false;
+    });
+    return candidates;
+}
+
+}  // namespace tarnel

@@ -1,0 +1,50 @@
+#include "records/log_service.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/testing/virtual_loop.h"
+#include "records/atomic_file.h"
+#include "test_dir.h"
+
+namespace tarnel {
+namespace {
+
+TEST(LogService, MemoryKeepsTheLastHundredWhileTheFileKeepsEverything) {
+    TestDir dir("log");
+    VirtualLoop loop;
+    LogService log(loop, loop, dir / "Logs/Tarnel.log");
+    for (int i = 1; i <= 101; ++i)
+        log.log("[Shop] line " + std::to_string(i));
+    log.log("[Shop] two\nlines", LogLevel::warning);
+    loop.runUntilIdle();
+    log.flush();
+
+    const auto& entries = log.entries().value();
+    ASSERT_EQ(entries.size(), 100u);
+    EXPECT_EQ(entries.front().message, "[Shop] line 3");
+    EXPECT_EQ(entries.back().level, LogLevel::warning);
+
+    auto text = readWholeFile(log.logFileURL()).value_or("");
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 103);
+    EXPECT_NE(text.find("[2024-03-07 09:00:00] INFO [Shop] line 1\n"), std::string::npos);
+    EXPECT_NE(text.find("] WARN [Shop] two\nlines\n"), std::string::npos);
+}
+
+TEST(LogService, ADeletedFileIsCreatedAgainByTheNextLine) {
+    TestDir dir("log-deleted");
+    VirtualLoop loop;
+    LogService log(loop, loop, dir / "Tarnel.log");
+    log.log("[A] before");
+    log.flush();
+    std::filesystem::remove(log.logFileURL());
+    log.clear();
+    log.log("[A] after", LogLevel::error);
+    loop.runUntilIdle();
+    log.flush();
+
+    EXPECT_EQ(readWholeFile(log.logFileURL()), "[2024-03-07 09:00:00] ERR [A] after\n");
+    ASSERT_EQ(log.entries().value().size(), 1u);
+}
+
+}  // namespace
+}  // namespace tarnel
