@@ -1,0 +1,20 @@
+#pragma once
+
+#include <filesystem>
+
+namespace tarnel {
+
+// Where the program keeps its stores, after the XDG base directories, so that setting
+// XDG_CONFIG_HOME, XDG_DATA_HOME and XDG_STATE_HOME isolates a run completely.
+struct AppPaths {
+    std::filesystem::path settingsFile;    // $XDG_CONFIG_HOME/Tarnel/Tarnel.conf
+    std::filesystem::path autostartFile;   // $XDG_CONFIG_HOME/autostart/tarnel.desktop
+    std::filesystem::path historyFile;     // $XDG_DATA_HOME/Tarnel/history.json
+    std::filesystem::path partialsFile;    // $XDG_DATA_HOME/Tarnel/partials.json
+    std::filesystem::path knownHostsFile;  // $XDG_DATA_HOME/Tarnel/known_hosts
+    std::filesystem::path logFile;         // $XDG_STATE_HOME/Tarnel/Tarnel.log
+
+    static AppPaths fromEnvironment();
+};
+
+}  // namespace tarnel

@@ -1,0 +1,41 @@
+#include "app/app_services.h"
+
+#include "platform/qt/dbus_notifier.h"
+#include "platform/qt/logind_inhibitor.h"
+#include "platform/qt/logind_sleep_monitor.h"
+#include "platform/qt/qt_network_monitor.h"
+#include "records/partial_download_tracker.h"
+
+namespace tarnel {
+
+AppServices::AppServices(const AppPaths& paths, std::unique_ptr<SoundPlayer> soundPlayer)
+    : paths_(paths),
+      settingsStore_(paths.settingsFile),
+      settings_(settingsStore_, paths.autostartFile),
+      logService_(loop_, clock_, paths.logFile),
+      statsService_(settingsStore_, clock_),
+      historyService_(loop_, paths.historyFile),
+      notifier_(std::make_unique<DBusNotifier>()),
+      notifications_(settings_, *notifier_),
+      sleepMonitor_(std::make_unique<LogindSleepMonitor>()),
+      soundPlayer_(std::move(soundPlayer)),
+      networkMonitor_(std::make_unique<QtNetworkMonitor>()),
+      sleepInhibitor_(std::make_unique<LogindInhibitor>()) {
+    std::error_code ignored;
+    std::filesystem::create_directories(paths.historyFile.parent_path(), ignored);
+    manager_ = std::make_shared<ConnectionsManager>(FleetServices{
+        runtime_, settingsStore_, settings_, logService_, statsService_, historyService_,
+        notifications_, *sleepMonitor_, *soundPlayer_, paths.partialsFile, paths.knownHostsFile,
+        networkMonitor_.get(), sleepInhibitor_.get()});
+}
+
+AppServices::~AppServices() = default;
+
+void AppServices::shutdown() {
+    manager_->stopAll();
+    logService_.flush();
+    historyService_.flush();
+    manager_->partialTracker().flush();
+}
+
+}  // namespace tarnel

@@ -1,0 +1,54 @@
+#include "app/command_line.h"
+
+#include <string_view>
+
+namespace tarnel {
+
+CommandLine CommandLine::parse(int argc, char** argv) {
+    CommandLine c;
+    for (int i = 1; i < argc; ++i) {
+        std::string_view arg = argv[i];
+        if (arg == "--headless") {
+            c.headless = true;
+        } else if (arg == "--help" || arg == "-h") {
+            c.help = true;
+        } else if (arg == "--import") {
+            if (i + 1 >= argc) {
+                c.error = "--import needs a file";
+                return c;
+            }
+            c.importFile = argv[++i];
+        } else if (arg.starts_with("--import=")) {
+            c.importFile = std::string(arg.substr(9));
+        } else {
+            c.error = "unknown option: " + std::string(arg);
+            return c;
+        }
+    }
+    return c;
+}
+
+std::string CommandLine::helpText() {
+    return R"(Usage: tarnel [--headless] [--import FILE]
+
+Tarnel watches FTP, FTPS and SFTP folders and pulls each file once its size has settled.
+
+  --headless      Run every enabled connection without the tray icon, for servers and
+                  scripts. Log lines go to standard output as well as to the log file.
+                  SIGINT or SIGTERM stops the connections and exits with status 0; a transfer
+                  under way resumes at the next start.
+  --import FILE   Add connections from FILE, a JSON array of connection records in the
+                  stored form. A record whose "id" is already known replaces that connection;
+                  any other is added. If any record cannot be read, nothing is imported, the
+                  record (by index) and the key at fault are named, and the exit status is 2.
+                  Without --headless, Tarnel exits after the import.
+  --help          Show this text.
+
+Stores (set the XDG variables to keep a run apart):
+  $XDG_CONFIG_HOME/Tarnel/Tarnel.conf     settings and connections
+  $XDG_DATA_HOME/Tarnel/                  history.json, partials.json, known_hosts
+  $XDG_STATE_HOME/Tarnel/Tarnel.log       the log
+)";
+}
+
+}  // namespace tarnel

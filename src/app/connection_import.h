@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "connections/connection_config.h"
+
+namespace tarnel {
+
+class ConnectionsManager;
+
+// Reads FILE as a JSON array of connection records in the stored form. Throws
+// ConfigDecodeError naming the record and the key at fault, or std::runtime_error when the
+// file cannot be read; nothing is imported then.
+std::vector<ConnectionConfig> readConnectionImport(const std::string& file);
+
+// A record whose id is known replaces that connection; any other is added. Returns a line a
+// person can read: how many were added and replaced.
+std::string importConnections(ConnectionsManager& manager,
+                              const std::vector<ConnectionConfig>& records);
+
+}  // namespace tarnel

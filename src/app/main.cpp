@@ -1,0 +1,97 @@
+// tarnel: the headless runner and the connection import. The tray application joins later.
+#include <sys/signalfd.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QSocketNotifier>
+#include <csignal>
+#include <cstdio>
+#include <iostream>
+
+#include "app/app_paths.h"
+#include "app/app_services.h"
+#include "app/command_line.h"
+#include "app/connection_import.h"
+#include "connections/connection_config_json.h"
+
+namespace {
+
+// A server has no one to hear a sound.
+class SilentSoundPlayer final : public tarnel::SoundPlayer {
+public:
+    void play(const std::string&) override {}
+};
+
+// SIGINT and SIGTERM arrive as a readable descriptor on the main loop, so that stopping runs
+// there like any other event. Blocked first, before any thread exists that could take them.
+int blockStopSignals() {
+    sigset_t set;
+    sigemptyset(&set);
+    sigaddset(&set, SIGINT);
+    sigaddset(&set, SIGTERM);
+    pthread_sigmask(SIG_BLOCK, &set, nullptr);
+    return signalfd(-1, &set, SFD_CLOEXEC);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    using namespace tarnel;
+    const auto options = CommandLine::parse(argc, argv);
+    if (options.error) {
+        std::cerr << "tarnel: " << *options.error << "\n\n" << CommandLine::helpText();
+        return 2;
+    }
+    if (options.help) {
+        std::cout << CommandLine::helpText();
+        return 0;
+    }
+    if (!options.headless && !options.importFile) {
+        std::cerr << "tarnel: the tray application is not built yet; run 'tarnel --headless'\n";
+        return 2;
+    }
+
+    // A file that does not read imports nothing, before anything is built.
+    std::vector<ConnectionConfig> imported;
+    if (options.importFile) {
+        try {
+            imported = readConnectionImport(*options.importFile);
+        } catch (const std::exception& e) {
+            std::cerr << "tarnel: cannot import " << *options.importFile << ": " << e.what()
+                      << "\nNothing was imported.\n";
+            return 2;
+        }
+    }
+
+    const int signals = blockStopSignals();
+    QCoreApplication app(argc, argv);
+    AppServices services(AppPaths::fromEnvironment(), std::make_unique<SilentSoundPlayer>());
+
+    if (!options.headless) {
+        std::cout << importConnections(services.manager(), imported) << "\n";
+        services.shutdown();
+        return 0;
+    }
+
+    services.logService().setEcho([](const std::string& line) {
+        std::fputs((line + "\n").c_str(), stdout);
+        std::fflush(stdout);
+    });
+    services.manager().startAll();
+    if (options.importFile)
+        services.logService().log(importConnections(services.manager(), imported));
+
+    QSocketNotifier stopNotifier(signals, QSocketNotifier::Read);
+    QObject::connect(&stopNotifier, &QSocketNotifier::activated, &app, [&] {
+        signalfd_siginfo info{};
+        [[maybe_unused]] auto n = ::read(signals, &info, sizeof info);
+        services.logService().log(info.ssi_signo == SIGINT ? "Interrupted, stopping"
+                                                           : "Terminated, stopping");
+        services.shutdown();
+        // Transfers still running end with the process; their temporary files and records
+        // are what the next start resumes from.
+        std::fflush(stdout);
+        std::_Exit(0);
+    });
+    return app.exec();
+}

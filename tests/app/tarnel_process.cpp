@@ -1,0 +1,106 @@
+#include "tarnel_process.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
+
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+#include <thread>
+
+extern char** environ;
+
+namespace tarnel::testing {
+
+namespace {
+std::string readAll(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    std::ostringstream s;
+    s << in.rdbuf();
+    return s.str();
+}
+}  // namespace
+
+TarnelProcess::~TarnelProcess() {
+    if (pid_ > 0) {
+        ::kill(pid_, SIGKILL);
+        ::waitpid(pid_, nullptr, 0);
+    }
+}
+
+pid_t TarnelProcess::spawn(const std::vector<std::string>& args, const std::filesystem::path& out,
+                           const std::filesystem::path& err) {
+    std::vector<std::string> env;
+    for (char** e = environ; *e; ++e) {
+        std::string_view v(*e);
+        if (!v.starts_with("XDG_")) env.emplace_back(v);
+    }
+    env.push_back("XDG_CONFIG_HOME=" + (home_ / "config").string());
+    env.push_back("XDG_DATA_HOME=" + (home_ / "data").string());
+    env.push_back("XDG_STATE_HOME=" + (home_ / "state").string());
+    std::vector<std::string> argv{TARNEL_BINARY};
+    argv.insert(argv.end(), args.begin(), args.end());
+    std::vector<char*> cargv, cenv;
+    for (auto& a : argv) cargv.push_back(a.data());
+    cargv.push_back(nullptr);
+    for (auto& e : env) cenv.push_back(e.data());
+    cenv.push_back(nullptr);
+
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, 1, out.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    posix_spawn_file_actions_addopen(&actions, 2, err.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    pid_t pid = -1;
+    int rc = posix_spawn(&pid, argv[0].c_str(), &actions, nullptr, cargv.data(), cenv.data());
+    posix_spawn_file_actions_destroy(&actions);
+    if (rc != 0) throw std::runtime_error("cannot start " + argv[0]);
+    return pid;
+}
+
+TarnelProcess::Finished TarnelProcess::run(const std::vector<std::string>& args) {
+    std::filesystem::create_directories(home_);
+    pid_ = spawn(args, home_ / "run.out", home_ / "run.err");
+    Finished f;
+    f.exitCode = wait();
+    f.out = readAll(home_ / "run.out");
+    f.err = readAll(home_ / "run.err");
+    return f;
+}
+
+void TarnelProcess::start(const std::vector<std::string>& args) {
+    std::filesystem::create_directories(home_);
+    pid_ = spawn(args, home_ / "headless.out", home_ / "headless.err");
+}
+
+void TarnelProcess::signal(int signo) {
+    if (pid_ > 0) ::kill(pid_, signo);
+}
+
+int TarnelProcess::wait() {
+    int status = 0;
+    ::waitpid(pid_, &status, 0);
+    pid_ = -1;
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+std::string TarnelProcess::logText() const {
+    return readAll(home_ / "state" / "Tarnel" / "Tarnel.log");
+}
+
+std::filesystem::path TarnelProcess::settingsFile() const {
+    return home_ / "config" / "Tarnel" / "Tarnel.conf";
+}
+
+bool TarnelProcess::waitFor(const std::function<bool()>& done, std::chrono::seconds limit) {
+    const auto until = std::chrono::steady_clock::now() + limit;
+    while (std::chrono::steady_clock::now() < until) {
+        if (done()) return true;
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+    return done();
+}
+
+}  // namespace tarnel::testing
