@@ -8,7 +8,8 @@
 
 namespace tarnel {
 
-AppServices::AppServices(const AppPaths& paths, std::unique_ptr<SoundPlayer> soundPlayer)
+AppServices::AppServices(const AppPaths& paths, std::unique_ptr<SoundPlayer> soundPlayer,
+                         std::function<void(const std::string&)> logEcho)
     : paths_(paths),
       settingsStore_(paths.settingsFile),
       settings_(settingsStore_, paths.autostartFile),
@@ -21,6 +22,7 @@ AppServices::AppServices(const AppPaths& paths, std::unique_ptr<SoundPlayer> sou
       soundPlayer_(std::move(soundPlayer)),
       networkMonitor_(std::make_unique<QtNetworkMonitor>()),
       sleepInhibitor_(std::make_unique<LogindInhibitor>()) {
+    if (logEcho) logService_.setEcho(std::move(logEcho));
     std::error_code ignored;
     std::filesystem::create_directories(paths.historyFile.parent_path(), ignored);
     manager_ = std::make_shared<ConnectionsManager>(FleetServices{

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <string>
 
 #include "app/app_paths.h"
 #include "fleet/connections_manager.h"
@@ -26,7 +28,10 @@ namespace tarnel {
 // built. The tray application and the headless runner build the same.
 class AppServices {
 public:
-    AppServices(const AppPaths& paths, std::unique_ptr<SoundPlayer> soundPlayer);
+    // `logEcho`, when given, also receives every log line from the first one on (the headless
+    // runner prints them).
+    AppServices(const AppPaths& paths, std::unique_ptr<SoundPlayer> soundPlayer,
+                std::function<void(const std::string&)> logEcho = {});
     ~AppServices();
 
     ConnectionsManager& manager() { return *manager_; }

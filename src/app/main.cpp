@@ -65,7 +65,15 @@ int main(int argc, char** argv) {
 
     const int signals = blockStopSignals();
     QCoreApplication app(argc, argv);
-    AppServices services(AppPaths::fromEnvironment(), std::make_unique<SilentSoundPlayer>());
+    std::function<void(const std::string&)> echo;
+    if (options.headless) {
+        echo = [](const std::string& line) {
+            std::fputs((line + "\n").c_str(), stdout);
+            std::fflush(stdout);
+        };
+    }
+    AppServices services(AppPaths::fromEnvironment(), std::make_unique<SilentSoundPlayer>(),
+                         std::move(echo));
 
     if (!options.headless) {
         std::cout << importConnections(services.manager(), imported) << "\n";
@@ -73,10 +81,6 @@ int main(int argc, char** argv) {
         return 0;
     }
 
-    services.logService().setEcho([](const std::string& line) {
-        std::fputs((line + "\n").c_str(), stdout);
-        std::fflush(stdout);
-    });
     services.manager().startAll();
     if (options.importFile)
         services.logService().log(importConnections(services.manager(), imported));

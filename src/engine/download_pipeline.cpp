@@ -9,7 +9,7 @@
 
 #include "connections/routing.h"
 #include "engine/destination.h"
-#include "engine/foundation_path.h"
+#include "platform/foundation_path.h"
 #include "connections/finder_tags.h"
 #include "engine/md5.h"
 #include "engine/sync_engine.h"
@@ -280,6 +280,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
         }
         result.finalName = newName;
         result.size = local;
+        if (config_.autoDecompress) decompressIfNeeded(placed);
 
         if (config_.deleteAfterDownload) {
             std::optional<std::string> deleteError;
@@ -296,6 +297,8 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
             } else {
                 undeletedFiles_.erase(key);
                 log("Moved: " + key + " \u2192 " + folder, LogLevel::success);
+                if (config_.deleteEmptyRemoteFolders && !file.relativePath.empty())
+                    co_await removeEmptyRemoteFolders(file.relativePath);
             }
         } else {
             log("Copied: " + key + " \u2192 " + folder, LogLevel::success);
@@ -354,6 +357,7 @@ Task<void> SyncEngine::bookResults(const std::vector<TransferResult>& results) {
     services_.notifications.notifyDownloaded(names, total, config_.name);
     if (services_.globalSettings.playSoundOnDownload())
         services_.soundPlayer.play(services_.globalSettings.soundName());
+    if (config_.postActionEnabled && !config_.postActionPath.empty()) runPostAction(names);
 }
 
 void SyncEngine::handleFileFailure(const std::string& key, std::int64_t size,

@@ -2,6 +2,8 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "connections/routing.h"
 #include "platform/uuid.h"
@@ -18,6 +20,9 @@ public:
     // The connection's fallback folder, if reachable.
     virtual std::optional<std::filesystem::path> fallbackDestination(
         const Uuid& connectionId) const = 0;
+    // Stores folders that the engine's watch found in the connection's selection.
+    virtual void addSelectedRemotePaths(const std::vector<std::string>& paths,
+                                        const Uuid& connectionId) = 0;
 };
 
 }  // namespace tarnel

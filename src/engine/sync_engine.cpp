@@ -189,6 +189,8 @@ Task<void> SyncEngine::pollOnce() {
         if (!config_.exploreSubdirectories) {
             listing = co_await ftpService_->listFiles();
         } else {
+            if (config_.autoMonitorNewFolders && !dynamicSelectedPaths_.empty())
+                co_await checkForNewFolders();
             std::optional<std::vector<std::string>> allowed;
             if (!dynamicSelectedPaths_.empty()) allowed = dynamicSelectedPaths_;
             listing = co_await ftpService_->collectFiles(config_.remotePath, config_.maxDepth,

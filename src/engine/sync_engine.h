@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <set>
@@ -112,6 +113,16 @@ private:
     void pollFailure(const std::string& message);
     void endPoll();
     void log(const std::string& text, LogLevel level = LogLevel::info) const;
+
+    // After placing: a ".gz" is unpacked beside itself, a ".zip" handed to the desktop.
+    void decompressIfNeeded(const std::filesystem::path& file);
+    // The batch's post-action over its final names. Launch failures are logged, never raised.
+    void runPostAction(const std::vector<std::string>& names);
+    // Top-level folders that appeared on the server join the watched selection.
+    Task<void> checkForNewFolders();
+    // Climbs from the folder of the deleted file `path` towards `remotePath`, removing each
+    // folder that lists empty; `remotePath` itself stays.
+    Task<void> removeEmptyRemoteFolders(std::string path);
 
     ConnectionConfig config_;
     std::unique_ptr<RemoteService> ftpService_;

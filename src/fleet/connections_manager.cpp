@@ -3,6 +3,7 @@
 #include "connections/connection_config_json.h"
 #include "engine/ftp_remote_service.h"
 #include "platform/runtime.h"
+#include "records/app_settings.h"
 #include "records/download_tracker.h"
 #include "records/partial_download_tracker.h"
 #include "transfer/curl_transfer_client.h"
@@ -35,13 +36,24 @@ ConnectionsManager::ConnectionsManager(FleetServices services, RemoteFactory mak
                       services_.statsService,   services_.historyService,
                       services_.globalSettings, *partialTracker_,
                       services_.notifications,  services_.sleepMonitor,
-                      services_.soundPlayer} {
+                      services_.soundPlayer},
+      bookmarks_(services_.settingsStore) {
     if (!makeRemote_)
         makeRemote_ = [this](const ConnectionConfig& config) { return makeCurlRemote(config); };
     loadConnections();
+    if (connections_().empty()) migrateLegacyConnection();
+    restoreFolderGrants();
+    startNetworkMonitor();
+    // Each value of the setting, the present one included, takes or gives back the hold at once.
+    cancellables_.push_back(services_.globalSettings.preventSleepDuringDownloads.subscribe(
+        [this](bool) { updateSleepPrevention(); }));
+    refreshFreeDiskSpace();
+    sweepOrphanedPartials();
 }
 
-ConnectionsManager::~ConnectionsManager() = default;
+ConnectionsManager::~ConnectionsManager() {
+    if (networkMonitor_) networkMonitor_->cancel();
+}
 
 std::unique_ptr<RemoteService> ConnectionsManager::makeCurlRemote(
     const ConnectionConfig& config) const {
@@ -86,6 +98,12 @@ void ConnectionsManager::createEngine(const ConnectionConfig& config, bool start
     cancellables_.push_back(skipFirst(engine->totalTransferred(), [weak](int) {
         if (auto self = weak.lock()) self->unreadCount_.set(self->unreadCount_() + 1);
     }));
+    // A poll shorter than the quiet time never holds sleep off, and the hold outlives the last
+    // poll by as much.
+    cancellables_.push_back(debounce(services_.runtime.loop, engine->isSyncing(),
+                                     std::chrono::seconds(2), [weak](bool) {
+                                         if (auto self = weak.lock()) self->updateSleepPrevention();
+                                     }));
 
     engine->start();
     if (startPaused) engine->togglePause();
@@ -111,30 +129,35 @@ const ConnectionConfig* ConnectionsManager::findConnection(const Uuid& id) const
     return nullptr;
 }
 
-namespace {
-bool isExistingFolder(const std::string& path) {
-    std::error_code ec;
-    return !path.empty() && std::filesystem::is_directory(path, ec);
-}
-}  // namespace
-
 RuleFolders ConnectionsManager::ruleDestinations(const Uuid& connectionId) const {
     RuleFolders out;
-    if (const auto* config = findConnection(connectionId))
-        for (const auto& rule : config->routingRules)
-            if (rule.destinationPath && isExistingFolder(*rule.destinationPath))
-                out[rule.id] = *rule.destinationPath;
+    const auto* config = findConnection(connectionId);
+    if (!config) return out;
+    const auto local = activeBookmarks_.find(connectionId);
+    for (const auto& rule : config->routingRules) {
+        if (!rule.isEnabled || !rule.destinationPath) continue;
+        if (auto granted = activeRuleBookmarks_.find(rule.id); granted != activeRuleBookmarks_.end())
+            out[rule.id] = granted->second;
+        else if (!rule.destinationPath->starts_with('/') && local != activeBookmarks_.end())
+            out[rule.id] = local->second / *rule.destinationPath;
+    }
     return out;
 }
 
 std::optional<std::filesystem::path> ConnectionsManager::fallbackDestination(
     const Uuid& connectionId) const {
-    const auto* config = findConnection(connectionId);
-    if (config && isExistingFolder(config->fallbackPath)) return config->fallbackPath;
+    if (auto granted = activeFallbackBookmarks_.find(connectionId);
+        granted != activeFallbackBookmarks_.end())
+        return granted->second;
     return std::nullopt;
 }
 
 void ConnectionsManager::startAll() {
+    const auto& list = connections_();
+    if (activeBookmarks_.empty()) activeBookmarks_ = bookmarks_.restoreAll(list);
+    if (activeRuleBookmarks_.empty()) activeRuleBookmarks_ = bookmarks_.restoreAllRules(list);
+    if (activeFallbackBookmarks_.empty())
+        activeFallbackBookmarks_ = bookmarks_.restoreAllFallbacks(list);
     for (const auto& config : connections_())
         if (config.enabled && !config.host.empty()) createEngine(config, !config.autoConnectOnLaunch);
 }
@@ -143,6 +166,14 @@ void ConnectionsManager::stopAll() {
     for (auto& [id, engine] : engines_) engine->stop();
     engines_.clear();
     cancellables_.clear();
+    if (networkMonitor_) networkMonitor_->cancel();
+    networkMonitor_ = nullptr;
+    pendingNetworkTask_.reset();
+    allowSleep();
+    // A path holds nothing open: ending the grants is forgetting them.
+    activeBookmarks_.clear();
+    activeRuleBookmarks_.clear();
+    activeFallbackBookmarks_.clear();
 }
 
 void ConnectionsManager::pauseAll() {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <map>
 #include <optional>
 #include <memory>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -13,8 +15,11 @@
 #include "engine/fleet_link.h"
 #include "engine/remote_service.h"
 #include "engine/sync_engine.h"
+#include "fleet/bookmark_manager.h"
+#include "platform/network_monitor.h"
 #include "platform/observable.h"
 #include "platform/settings_store.h"
+#include "platform/sleep_inhibitor.h"
 
 namespace tarnel {
 
@@ -33,6 +38,10 @@ struct FleetServices {
     SoundPlayer& soundPlayer;
     std::filesystem::path partialsFile;    // partial downloads of every engine
     std::filesystem::path knownHostsFile;  // SFTP host keys trusted on first use
+    // The machine's surroundings. Without a monitor the network is never heard of; without an
+    // inhibitor idle sleep is never held off.
+    NetworkMonitor* networkMonitor = nullptr;
+    SleepInhibitor* sleepInhibitor = nullptr;
 };
 
 // Makes the remote an engine talks to. The program's default speaks libcurl; tests may serve
@@ -56,6 +65,22 @@ public:
     void loadConnections();
     void saveConnections();
 
+    // Editing the list; each edit saves it and rebuilds the connection's engine.
+    void addConnection(const ConnectionConfig& config);
+    void updateConnection(const ConnectionConfig& config);
+    void removeConnection(const Uuid& id);
+    // Folders the engine's watch found, added to the stored selection.
+    void addSelectedRemotePaths(const std::vector<std::string>& paths,
+                                const Uuid& connectionId) override;
+    // The one connection an older version kept in flat keys, when the list is empty.
+    void migrateLegacyConnection();
+    // Deletes the partial files that no record claims, once per distinct local folder.
+    void sweepOrphanedPartials();
+    // Labelled folders for "Open destination folder": the main folder, rule folders, the
+    // fallback folder; a folder shown once.
+    std::vector<std::pair<std::string, std::filesystem::path>> destinationFolders(
+        const Uuid& connectionId) const;
+
     void startAll();
     void stopAll();
     void pauseAll();
@@ -68,14 +93,42 @@ public:
     const Observable<bool>& aggregatePaused() const { return aggregatePaused_; }
     const Observable<bool>& aggregateDownloading() const { return aggregateDownloading_; }
     const Observable<bool>& hasActiveEngines() const { return hasActiveEngines_; }
+    const Observable<bool>& isNetworkAvailable() const { return isNetworkAvailable_; }
+    const Observable<bool>& isOnHotspot() const { return isOnHotspot_; }
+    const Observable<bool>& isPausedForNetwork() const { return isPausedForNetwork_; }
+    // Nothing sets it: low disk space fails an engine's poll instead of pausing the fleet.
+    const Observable<bool>& isPausedForDiskSpace() const { return isPausedForDiskSpace_; }
+    const Observable<bool>& isPreventingSleep() const { return isPreventingSleep_; }
+    const Observable<double>& freeDiskSpaceGB() const { return freeDiskSpaceGB_; }
+    // "Unknown" until the first path update, then "Wi-Fi", "Ethernet", "Cellular", "Connected"
+    // or "Offline".
+    const Observable<std::string>& networkType() const { return networkType_; }
+
+    // Free space of the first connection's folder's volume (the home volume when it has none),
+    // in GiB. Read at start-up and when the popover opens.
+    void refreshFreeDiskSpace();
+    // Holds idle sleep off while an engine syncs and the setting allows it.
+    void updateSleepPrevention();
+    void preventSleep();
+    void allowSleep();
+
+    // A folder the user chose replaces the running grant: the local folder and the fallback
+    // folder of a connection, the folder of a routing rule.
+    void updateBookmark(const std::filesystem::path& url, const Uuid& connectionId);
+    void updateRuleBookmark(const std::filesystem::path& url, const Uuid& ruleId);
+    void updateFallbackBookmark(const std::filesystem::path& url, const Uuid& connectionId);
+    const FolderGrants& activeBookmarks() const { return activeBookmarks_; }
+    const FolderGrants& activeRuleBookmarks() const { return activeRuleBookmarks_; }
+    const FolderGrants& activeFallbackBookmarks() const { return activeFallbackBookmarks_; }
+    const BookmarkManager& bookmarkManager() const { return bookmarks_; }
 
     // The popover has been opened: the unread count starts again.
     void markAllRead() { unreadCount_.set(0); }
 
     const std::unordered_map<Uuid, std::shared_ptr<SyncEngine>>& engines() const { return engines_; }
 
-    // The folders the connection's rules route into, by rule id, and its fallback folder: those
-    // the user chose that exist now. A rule without one routes into the primary folder.
+    // The folders the connection's rules route into, by rule id, and its fallback folder, as far
+    // as they are granted. A relative rule folder lies in the granted local folder.
     RuleFolders ruleDestinations(const Uuid& connectionId) const override;
     std::optional<std::filesystem::path> fallbackDestination(const Uuid& connectionId) const override;
     PartialDownloadTracker& partialTracker() { return *partialTracker_; }
@@ -85,6 +138,11 @@ private:
     const ConnectionConfig* findConnection(const Uuid& id) const;
     void recomputeAggregates();
     std::unique_ptr<RemoteService> makeCurlRemote(const ConnectionConfig& config) const;
+    // Start-up: the grants of the stored folders, and a warning for each local folder without.
+    void restoreFolderGrants();
+    void startNetworkMonitor();
+    void handlePathUpdate(const NetworkPath& path);
+    void applyPathUpdate(bool isAvailable, bool isHotspot, const NetworkPath& path);
 
     FleetServices services_;
     RemoteFactory makeRemote_;
@@ -97,9 +155,27 @@ private:
     Observable<bool> aggregatePaused_{false};
     Observable<bool> aggregateDownloading_{false};
     Observable<bool> hasActiveEngines_{false};
+    Observable<bool> isNetworkAvailable_{true};
+    Observable<bool> isOnHotspot_{false};
+    Observable<bool> isPausedForNetwork_{false};
+    Observable<bool> isPausedForDiskSpace_{false};
+    Observable<bool> isPreventingSleep_{false};
+    Observable<double> freeDiskSpaceGB_{0.0};
+    Observable<std::string> networkType_{"Unknown"};
 
     std::unordered_map<Uuid, std::shared_ptr<SyncEngine>> engines_;
     std::vector<Subscription> cancellables_;
+
+    BookmarkManager bookmarks_;
+    FolderGrants activeBookmarks_;
+    FolderGrants activeRuleBookmarks_;
+    FolderGrants activeFallbackBookmarks_;
+
+    NetworkMonitor* networkMonitor_ = nullptr;  // none after stopAll()
+    std::unique_ptr<Timer> pendingNetworkTask_;  // the path update waiting out its second
+    std::uint32_t sleepAssertionID_ = 0;
+    // Path updates hop to the loop holding this weakly: the manager may be gone when they land.
+    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };
 
 }  // namespace tarnel

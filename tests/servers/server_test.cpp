@@ -121,8 +121,8 @@ TEST_P(ServerTest, FaultsActFromTheNextOperation) {
     server.cutTransfersAfter(1000);
     const CurlResult cut = curl(server, {url(server, "big.bin")});
     EXPECT_NE(cut.exitCode, 0);
-    // FTP cuts at the byte; SFTP answers each read request whole before it cuts.
-    EXPECT_GE(cut.output.size(), 1000u);
+    // FTP cuts at the byte. SFTP answers each read request whole before it cuts, and the
+    // client's pipelined requests may lose answers with the connection: only short is sure.
     EXPECT_LT(cut.output.size(), content.size());
     if (GetParam() != ServerProtocol::sftp) {
         EXPECT_EQ(cut.output.size(), 1000u);

@@ -1,0 +1,166 @@
+// What runs after a file has been placed: decompression of a single file, and the post-action
+// of a whole batch.
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <system_error>
+
+#include "engine/gzip_decompression.h"
+#include "engine/sync_engine.h"
+#include "platform/foundation_path.h"
+#include "platform/localized.h"
+#include "platform/posix/process_launcher.h"
+#include "platform/runtime.h"
+#include "platform/uuid.h"
+#include "records/history_service.h"
+#include "records/notification_service.h"
+
+namespace tarnel {
+
+namespace fs = std::filesystem;
+
+namespace {
+constexpr const char* filePlaceholder = "{filepath}";
+// The desktop's opener for a document, and its launcher for an application's ".desktop" entry.
+constexpr const char* documentOpener = "xdg-open";
+constexpr const char* applicationLauncher = "gio";
+
+// A local read or write that failed, in words a user can act on.
+struct FileError {
+    std::string description;
+};
+
+using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+File openFile(const fs::path& path, const char* mode, const char* what) {
+    File file(std::fopen(path.c_str(), mode), &std::fclose);
+    if (!file)
+        throw FileError{std::string("Could not ") + what + " '" + path.string() +
+                        "': " + std::strerror(errno)};
+    return file;
+}
+
+Bytes readWholeFile(const fs::path& path) {
+    File file = openFile(path, "rb", "read");
+    Bytes data;
+    std::uint8_t block[65536];
+    std::size_t n = 0;
+    while ((n = std::fread(block, 1, sizeof block, file.get())) > 0)
+        data.insert(data.end(), block, block + n);
+    if (std::ferror(file.get()))
+        throw FileError{"Could not read '" + path.string() + "': " + std::strerror(errno)};
+    return data;
+}
+
+void writeWholeFile(const fs::path& path, const Bytes& data) {
+    File file = openFile(path, "wb", "write");
+    const bool written = std::fwrite(data.data(), 1, data.size(), file.get()) == data.size();
+    // A full disk may only show when the buffer is flushed.
+    if (!written || std::fflush(file.get()) != 0)
+        throw FileError{"Could not write '" + path.string() + "': " + std::strerror(errno)};
+}
+
+std::string lowercased(std::string text) {
+    for (char& c : text)
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c - 'A' + 'a');
+    return text;
+}
+
+// A plain split on each single blank: two blanks give an empty part, and nothing is quoted.
+std::vector<std::string> splitOnBlanks(const std::string& text) {
+    std::vector<std::string> parts;
+    std::size_t start = 0;
+    while (true) {
+        const auto blank = text.find(' ', start);
+        parts.push_back(text.substr(start, blank - start));
+        if (blank == std::string::npos)
+            return parts;
+        start = blank + 1;
+    }
+}
+}  // namespace
+
+void SyncEngine::decompressIfNeeded(const fs::path& file) {
+    const std::string name = file.filename().string();
+    const std::string extension = lowercased(pathExtension(file.string()));
+    if (extension == "zip") {
+        // Nothing here unpacks a zip: the desktop's handler for it does.
+        if (auto error = launchProcess(documentOpener, {file.string()}, ProgramLookup::searchPath))
+            log("Could not open ZIP " + name + ": " + *error, LogLevel::warning);
+        else
+            log("Opened ZIP with system handler: " + name);
+        return;
+    }
+    if (extension != "gz")
+        return;
+
+    // The compressed file stays; the transfer itself stays a success.
+    const auto reportFailure = [&](const std::string& message, const std::string& logText) {
+        log(logText, LogLevel::warning);
+        services_.notifications.notifyConnectionError(config_.name, localized(message));
+        std::error_code ec;
+        const auto size = fs::file_size(file, ec);
+        services_.historyService.add({Uuid::random(), services_.runtime.clock.now(), name, name,
+                                      ec ? 0 : static_cast<std::int64_t>(size), config_.host,
+                                      config_.remotePath, file.parent_path().string(), config_.name,
+                                      TransferStatus::error, message});
+    };
+
+    try {
+        const auto plain = gunzip(readWholeFile(file));
+        if (!plain) {
+            reportFailure("Failed to decompress " + name, "Gzip decompress failed: " + name);
+            return;
+        }
+        const fs::path target = stringByDeletingPathExtension(file.string());
+        writeWholeFile(target, *plain);
+        std::error_code ec;
+        fs::remove(file, ec);
+        if (ec)
+            log("Could not remove compressed source " + name + ": " + ec.message(),
+                LogLevel::warning);
+        log("Decompressed: " + name + " \u2192 " + target.filename().string());
+    } catch (const FileError& e) {
+        reportFailure("Decompress error: " + e.description, "Decompress error: " + e.description);
+    }
+}
+
+void SyncEngine::runPostAction(const std::vector<std::string>& names) {
+    const std::string& action = config_.postActionPath;
+    // The names are joined onto the main folder, also for files that routing placed elsewhere.
+    std::vector<std::string> files;
+    for (const auto& name : names)
+        files.push_back(stringByAppendingPathComponent(config_.localPath, name));
+    log("Running post-action: " + action);
+
+    const auto launch = [this](const std::string& program, const std::vector<std::string>& args,
+                               ProgramLookup lookup) {
+        if (auto error = launchProcess(program, args, lookup))
+            log("Post-action failed: " + *error, LogLevel::error);
+    };
+
+    if (action.ends_with(".desktop") || action.ends_with(".app")) {
+        std::vector<std::string> args{"launch", action};
+        args.insert(args.end(), files.begin(), files.end());
+        launch(applicationLauncher, args, ProgramLookup::searchPath);
+        return;
+    }
+    if (action.find(filePlaceholder) == std::string::npos) {
+        // A document or folder: opened once for the batch, without the files.
+        launch(documentOpener, {action}, ProgramLookup::searchPath);
+        return;
+    }
+    const auto parts = splitOnBlanks(action);
+    for (const auto& file : files) {
+        // Only a part that is the placeholder and nothing else becomes the path.
+        std::vector<std::string> args(parts.begin() + 1, parts.end());
+        for (auto& arg : args)
+            if (arg == filePlaceholder)
+                arg = file;
+        launch(parts.front(), args, ProgramLookup::asGiven);
+    }
+}
+
+}  // namespace tarnel

@@ -1,0 +1,55 @@
+// The manager's running folder grants: restored at start-up, replaced when the user chooses a
+// folder.
+#include "fleet/connections_manager.h"
+#include "records/log_service.h"
+
+namespace tarnel {
+
+void ConnectionsManager::restoreFolderGrants() {
+    const auto& list = connections_();
+    activeBookmarks_ = bookmarks_.restoreAll(list);
+    if (!activeBookmarks_.empty())
+        services_.logService.log(
+            "Restored " + std::to_string(activeBookmarks_.size()) + " folder bookmark(s)",
+            LogLevel::info);
+    activeRuleBookmarks_ = bookmarks_.restoreAllRules(list);
+    activeFallbackBookmarks_ = bookmarks_.restoreAllFallbacks(list);
+    for (const auto& c : list)
+        if (!c.localPath.empty() && !activeBookmarks_.contains(c.id))
+            services_.logService.log("[" + c.name +
+                                         "] Folder bookmark missing or invalid \u2014 user must "
+                                         "re-select the local folder in Settings.",
+                                     LogLevel::warning);
+}
+
+namespace {
+
+using Save = void (BookmarkManager::*)(const std::filesystem::path&, const Uuid&) const;
+
+// The old grant goes, the new folder is recorded, and it is granted if it can be reached.
+void replaceGrant(FolderGrants& grants, const BookmarkManager& bookmarks, Save save,
+                  const std::filesystem::path& url, const Uuid& id) {
+    grants.erase(id);
+    (bookmarks.*save)(url, id);
+    if (BookmarkManager::startAccessing(url))
+        grants[id] = url;
+}
+
+}  // namespace
+
+void ConnectionsManager::updateBookmark(const std::filesystem::path& url,
+                                        const Uuid& connectionId) {
+    replaceGrant(activeBookmarks_, bookmarks_, &BookmarkManager::saveBookmark, url, connectionId);
+}
+
+void ConnectionsManager::updateRuleBookmark(const std::filesystem::path& url, const Uuid& ruleId) {
+    replaceGrant(activeRuleBookmarks_, bookmarks_, &BookmarkManager::saveRuleBookmark, url, ruleId);
+}
+
+void ConnectionsManager::updateFallbackBookmark(const std::filesystem::path& url,
+                                                const Uuid& connectionId) {
+    replaceGrant(activeFallbackBookmarks_, bookmarks_, &BookmarkManager::saveFallbackBookmark, url,
+                 connectionId);
+}
+
+}  // namespace tarnel
