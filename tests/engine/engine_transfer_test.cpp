@@ -21,13 +21,7 @@ struct EngineTransferTest : EngineFixture, ::testing::WithParamInterface<ServerP
 
     TestServer& startServer(ServerProtocol protocol = ServerProtocol::ftp) {
         ftp = std::make_unique<TestServer>(ServerOptions{protocol, dir / "server"});
-        const auto served = ftp->connectionConfig();
-        config.transferProtocol = served.transferProtocol;
-        config.host = served.host;
-        config.port = served.port;
-        config.username = served.username;
-        config.password = served.password;
-        config.allowSelfSignedCerts = served.allowSelfSignedCerts;
+        ftp->pointAt(config);
         config.remotePath = "/";
         config.pollInterval = 10;
         config.requiredStableChecks = 1;

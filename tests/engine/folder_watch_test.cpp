@@ -20,12 +20,7 @@ struct FolderWatchTest : EngineFixture, ::testing::WithParamInterface<ServerProt
     std::shared_ptr<ConnectionsManager> manager;
 
     FolderWatchTest() {
-        const auto served = ftp.connectionConfig();
-        config.transferProtocol = served.transferProtocol;
-        config.host = served.host;
-        config.port = served.port;
-        config.username = served.username;
-        config.password = served.password;
+        ftp.pointAt(config);
         config.remotePath = "/in";
         config.pollInterval = 10;
         config.requiredStableChecks = 0;

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "guards_fixture.h"
+#include "fleet_fixture.h"
 
 namespace tarnel::testing {
 namespace {
@@ -10,7 +10,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
-struct BookmarkTest : GuardsFixture {
+struct BookmarkTest : FleetFixture {
     std::vector<std::string> reports;
     BookmarkManager bookmarks{settingsStore,
                               [this](const std::string& l) { reports.push_back(l); }};

@@ -1,42 +1,14 @@
 #include <gtest/gtest.h>
 
 #include "connections/connection_config_json.h"
-#include "engine_fixture.h"
-#include "fleet/connections_manager.h"
+#include "fleet_fixture.h"
 
 namespace tarnel::testing {
 namespace {
 
 using namespace std::chrono_literals;
 
-// The manager over remotes in memory, one server per host name.
-struct ManagerTest : EngineFixture {
-    std::map<std::string, std::shared_ptr<MemoryServer>> servers;
-
-    FleetServices fleetServices() {
-        return {runtime,      settingsStore, settings,
-                logService,   stats,         history,
-                notifications, sleepMonitor, soundPlayer,
-                dir / "partials-fleet.json", dir / "known_hosts"};
-    }
-
-    std::shared_ptr<ConnectionsManager> makeManager() {
-        return std::make_shared<ConnectionsManager>(
-            fleetServices(), [this](const ConnectionConfig& c) -> std::unique_ptr<RemoteService> {
-                auto& s = servers[c.host];
-                if (!s) s = std::make_shared<MemoryServer>();
-                return std::make_unique<MemoryRemote>(loop, s);
-            });
-    }
-
-    ConnectionConfig connection(const std::string& name, const std::string& host) {
-        ConnectionConfig c = config;
-        c.id = Uuid::random();
-        c.name = name;
-        c.host = host;
-        return c;
-    }
-
+struct ManagerTest : FleetFixture {
     void store(const std::vector<ConnectionConfig>& list) {
         settingsStore.setValue(ConnectionsManager::storageKey, encodeConnectionList(list));
     }

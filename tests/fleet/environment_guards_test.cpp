@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "connections/connection_config_json.h"
-#include "guards_fixture.h"
+#include "fleet_fixture.h"
 
 namespace tarnel::testing {
 namespace {
@@ -12,7 +12,7 @@ const NetworkPath offline{.isSatisfied = false};
 const NetworkPath wifi{.usesWifi = true};
 const NetworkPath cellular{.usesCellular = true};
 
-struct GuardsTest : GuardsFixture {
+struct GuardsTest : FleetFixture {
     std::shared_ptr<ConnectionsManager> manager;
 
     void launch(const std::vector<ConnectionConfig>& list) {

@@ -13,7 +13,7 @@
 #include <QDBusUnixFileDescriptor>
 #include <QThread>
 
-#include "guards_fixture.h"
+#include "fleet_fixture.h"
 
 namespace tarnel::testing {
 
@@ -67,7 +67,7 @@ using namespace std::chrono_literals;
 
 constexpr int closeGuardMs = 10'000;  // a failure guard only: the close is seen at once
 
-struct LogindInhibitorTest : GuardsFixture {
+struct LogindInhibitorTest : FleetFixture {
     int argc = 1;
     char name[32] = "logind_inhibitor_test";
     char* argv[2] = {name, nullptr};

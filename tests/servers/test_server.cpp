@@ -145,8 +145,7 @@ void TestServer::replaceHostIdentity() {
     }
 }
 
-ConnectionConfig TestServer::connectionConfig() const {
-    ConnectionConfig config;
+void TestServer::pointAt(ConnectionConfig& config) const {
     switch (options.protocol) {
         case ServerProtocol::ftp:
             config.transferProtocol = TransferProtocol::ftp;
@@ -159,11 +158,16 @@ ConnectionConfig TestServer::connectionConfig() const {
             config.transferProtocol = TransferProtocol::sftp;
             break;
     }
-    config.name = std::string("Test ") + protocolName(config.transferProtocol);
     config.host = "127.0.0.1";
     config.port = listeningPort;
     config.username = options.user;
     config.password = options.password;
+}
+
+ConnectionConfig TestServer::connectionConfig() const {
+    ConnectionConfig config;
+    pointAt(config);
+    config.name = std::string("Test ") + protocolName(config.transferProtocol);
     config.remotePath = "/";
     config.pollInterval = 1;
     return config;

@@ -44,6 +44,9 @@ public:
     // protocol, host "127.0.0.1", port, user, password, remotePath "/",
     // allowSelfSignedCerts for FTPS, pollInterval 1.
     ConnectionConfig connectionConfig() const;
+    // Points `config` at this server (protocol, host, port, login, certificate trust); the rest
+    // of the record stays as it is.
+    void pointAt(ConnectionConfig& config) const;
     // The next start() presents a new SFTP host key and FTPS certificate, as a server whose
     // identity changed would.
     void replaceHostIdentity();

@@ -12,7 +12,7 @@ namespace tarnel::testing {
 
 // The manager over remotes in memory, one server per host name, with the network scripted by
 // the test and idle sleep held by `inhibitor`, if any.
-struct GuardsFixture : EngineFixture {
+struct FleetFixture : EngineFixture {
     std::map<std::string, std::shared_ptr<MemoryServer>> servers;
     ScriptedNetworkMonitor monitor;
     SleepInhibitor* inhibitor = nullptr;
