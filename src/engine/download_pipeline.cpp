@@ -1,7 +1,6 @@
 // The download of one stable file, from routing to the remote delete, and the bookkeeping of a
 // poll's batch.
 #include <atomic>
-#include <cctype>
 #include <chrono>
 #include <cmath>
 #include <map>
@@ -23,6 +22,7 @@
 #include "records/notification_service.h"
 #include "records/partial_download_tracker.h"
 #include "records/stats_service.h"
+#include "transfer/curl_transfer_client.h"
 #include "transfer/speed_calculator.h"
 
 namespace tarnel {
@@ -55,22 +55,6 @@ void moveFile(const fs::path& from, const fs::path& to) {
     throwIfFailed(ec, "Could not move the file to", to);
 }
 
-// Percent-encodes a file name for a URL path: letters, digits and "-._~!$&'()*+,;=:@/" stay.
-std::string percentEncodePath(const std::string& name) {
-    static constexpr std::string_view allowed = "-._~!$&'()*+,;=:@/";
-    std::string out;
-    for (unsigned char c : name) {
-        if (std::isalnum(c) || allowed.find(static_cast<char>(c)) != std::string_view::npos) {
-            out += static_cast<char>(c);
-        } else {
-            static constexpr char hex[] = "0123456789ABCDEF";
-            out += '%';
-            out += hex[c >> 4];
-            out += hex[c & 0x0F];
-        }
-    }
-    return out;
-}
 }  // namespace
 
 Task<std::vector<TransferResult>> SyncEngine::downloadStableFiles(std::vector<TrackedFile> stable) {
@@ -81,9 +65,9 @@ Task<std::vector<TransferResult>> SyncEngine::downloadStableFiles(std::vector<Tr
 }
 
 std::string SyncEngine::remoteFileURL(const TrackedFile& file) const {
-    if (file.relativePath.empty()) return config_.baseRemoteURL() + percentEncodePath(file.name);
+    if (file.relativePath.empty()) return config_.baseRemoteURL() + percentEncodedPath(file.name);
     const std::string full = stringByAppendingPathComponent(config_.remotePath, file.relativePath);
-    return config_.remoteURL(stringByDeletingLastPathComponent(full)) + percentEncodePath(file.name);
+    return config_.remoteURL(stringByDeletingLastPathComponent(full)) + percentEncodedPath(file.name);
 }
 
 RemoteService::ProgressCallback SyncEngine::progressReporter(const Uuid& rowId,

@@ -1,0 +1,320 @@
+// Tarnel's engine beside its peers, on the same local servers in the same run:
+//   small-files  1,000 files of 10 KB, stable at once, 4 at a time, deleted after download,
+//                from the first poll to the last file placed; beside lftp mirror -P4
+//                --Remove-source-files and rclone move --transfers 4.
+//   large-file   one 1 GiB file through the engine, beside the curl tool.
+//   idle-fleet   50 connections polling an empty folder every 2 s: CPU per minute, memory.
+// Usage: fleet_bench small-files|large-file|idle-fleet [ftp|sftp] [count-or-MiB]
+#include <chrono>
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <random>
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include "engine/ftp_remote_service.h"
+#include "engine/sync_engine.h"
+#include "connections/connection_config_json.h"
+#include "fleet/connections_manager.h"
+#include "platform/qt/qt_main_loop.h"
+#include "platform/sleep_monitor.h"
+#include "platform/sound_player.h"
+#include "platform/testing/virtual_loop.h"
+#include "records/app_settings.h"
+#include "records/download_tracker.h"
+#include "records/history_service.h"
+#include "records/log_service.h"
+#include "records/notification_service.h"
+#include "records/partial_download_tracker.h"
+#include "records/stats_service.h"
+#include "servers/test_server.h"
+#include "transfer/curl_transfer_client.h"
+#include "transfer/ftp_service.h"
+
+extern char** environ;
+
+namespace tarnel {
+namespace {
+
+namespace fs = std::filesystem;
+using Clock = std::chrono::steady_clock;
+using testing::ServerProtocol;
+using testing::TestServer;
+
+class Silent final : public Notifier, public SoundPlayer {
+public:
+    void post(const std::string&, const std::string&, const std::string&, bool) override {}
+    void play(const std::string&) override {}
+};
+
+double secondsSince(Clock::time_point start) {
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+// Runs a peer tool to its end, quietly; its exit code.
+int run(std::vector<std::string> argv) {
+    std::vector<char*> args;
+    for (auto& a : argv)
+        args.push_back(a.data());
+    args.push_back(nullptr);
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, 2, "/tmp/tarnel-bench-peer.err",
+                                     O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    pid_t pid;
+    if (posix_spawnp(&pid, args[0], &actions, nullptr, args.data(), environ) != 0)
+        return -1;
+    posix_spawn_file_actions_destroy(&actions);
+    int status = 0;
+    waitpid(pid, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+std::string capture(std::vector<std::string> argv) {
+    std::string command;
+    for (auto& a : argv)
+        command += "'" + a + "' ";
+    std::string out;
+    if (FILE* p = popen(command.c_str(), "r")) {
+        char buffer[256];
+        while (fgets(buffer, sizeof buffer, p))
+            out += buffer;
+        pclose(p);
+    }
+    while (!out.empty() && (out.back() == '\n'))
+        out.pop_back();
+    return out;
+}
+
+void fill(const fs::path& root, int count, std::size_t size) {
+    std::mt19937 random(42);
+    std::string bytes(size, '\0');
+    for (int i = 0; i < count; ++i) {
+        for (auto& b : bytes)
+            b = static_cast<char>(random());
+        std::ofstream(root / ("file-" + std::to_string(i) + ".bin"), std::ios::binary) << bytes;
+    }
+}
+
+std::size_t countFiles(const fs::path& root) {
+    std::size_t n = 0;
+    for (auto& e : fs::recursive_directory_iterator(root))
+        if (e.is_regular_file())
+            ++n;
+    return n;
+}
+
+// Everything an engine needs, on a loop that runs worker jobs for real.
+struct Bench {
+    fs::path dir = fs::temp_directory_path() / "tarnel-bench";
+    WorkerPool workers;
+    VirtualLoop loop{&workers};
+    Runtime runtime{loop, loop, workers};
+    MemorySettingsStore store;
+    AppSettings settings{store, dir / "autostart.desktop"};
+    LogService log{loop, loop, dir / "Tarnel.log"};
+    StatsService stats{store, loop};
+    HistoryService history{loop, dir / "history.json"};
+    Silent silent;
+    NotificationService notifications{settings, silent};
+    ManualSleepMonitor sleep;
+    PartialDownloadTracker partials{dir / "partials.json", &loop};
+
+    Bench() { settings.setDiskSpaceWarningEnabled(false); }
+
+    // One poll that fetches everything in the server's folder; its wall-clock seconds.
+    double pollOnce(const ConnectionConfig& config) {
+        auto client = std::make_unique<CurlTransferClient>(config, dir / "known_hosts");
+        auto service = std::make_unique<FTPService>(config, log, std::move(client));
+        auto engine = std::make_shared<SyncEngine>(
+            config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
+            std::make_unique<DownloadTracker>(store, config.id.toString()),
+            EngineServices{runtime, log, stats, history, settings, partials, notifications, sleep,
+                           silent});
+        const auto start = Clock::now();
+        spawn(loop, engine->pollOnce());
+        loop.runUntilIdle();
+        return secondsSince(start);
+    }
+};
+
+ConnectionConfig engineConfig(const TestServer& server, const fs::path& into) {
+    auto c = server.connectionConfig();
+    c.name = "Bench";
+    c.localPath = into.string();
+    c.requiredStableChecks = 0;
+    c.maxConcurrentDownloads = 4;
+    c.deleteAfterDownload = true;
+    c.excludedExtensions = "";
+    return c;
+}
+
+std::string lftpUrl(const TestServer& server, ServerProtocol p) {
+    return std::string(p == ServerProtocol::sftp ? "sftp" : "ftp") + "://" + server.user() + ":" +
+           server.password() + "@127.0.0.1:" + std::to_string(server.port()) + "/";
+}
+
+std::string rcloneRemote(const TestServer& server, ServerProtocol p) {
+    const std::string obscured = capture({"rclone", "obscure", server.password()});
+    return std::string(p == ServerProtocol::sftp ? ":sftp" : ":ftp") +
+           ",host=127.0.0.1,port=" + std::to_string(server.port()) + ",user=" + server.user() +
+           ",pass=" + obscured + ":";
+}
+
+void report(const std::string& who, double seconds, std::size_t files, std::uint64_t bytes) {
+    std::printf("  %-34s %8.2f s  %8.1f files/s  %8.1f MB/s\n", who.c_str(), seconds,
+                files / seconds, bytes / seconds / 1e6);
+}
+
+int smallFiles(ServerProtocol protocol, int count) {
+    Bench bench;
+    TestServer server({protocol, bench.dir / "server"});
+    const std::size_t size = 10 * 1024;
+    std::printf("%d files of 10 KB over %s (delete after download, 4 at a time)\n", count,
+                protocol == ServerProtocol::sftp ? "SFTP" : "FTP");
+
+    auto target = bench.dir / "tarnel";
+    fill(server.root(), count, size);
+    double t = bench.pollOnce(engineConfig(server, target));
+    report("tarnel engine", t, countFiles(target), std::uint64_t(count) * size);
+
+    target = bench.dir / "lftp";
+    fill(server.root(), count, size);
+    std::string sftpSetup =
+        "set sftp:auto-confirm yes; set sftp:connect-program 'ssh -a -x -o "
+        "StrictHostKeyChecking=no -o UserKnownHostsFile=/dev/null';";
+    auto start = Clock::now();
+    run({"lftp", "-c",
+         sftpSetup + " open " + lftpUrl(server, protocol) +
+             "; mirror -P4 --Remove-source-files / " + target.string()});
+    report("lftp mirror -P4 --Remove-source-files", secondsSince(start), countFiles(target),
+           std::uint64_t(count) * size);
+
+    target = bench.dir / "rclone";
+    fill(server.root(), count, size);
+    start = Clock::now();
+    run({"rclone", "move", "--transfers", "4", rcloneRemote(server, protocol), target.string()});
+    report("rclone move --transfers 4", secondsSince(start), countFiles(target),
+           std::uint64_t(count) * size);
+    fs::remove_all(bench.dir);
+    return 0;
+}
+
+int largeFile(ServerProtocol protocol, std::size_t mib) {
+    Bench bench;
+    TestServer server({protocol, bench.dir / "server"});
+    const std::uint64_t bytes = std::uint64_t(mib) << 20;
+    std::printf("one file of %zu MiB over %s\n", mib,
+                protocol == ServerProtocol::sftp ? "SFTP" : "FTP");
+    fill(server.root(), 1, 1);  // a name, then grown to size without holding it in memory
+    {
+        std::ofstream out(server.root() / "file-0.bin", std::ios::binary | std::ios::trunc);
+        std::string block(1 << 20, '\0');
+        std::mt19937 random(7);
+        for (auto& b : block)
+            b = static_cast<char>(random());
+        for (std::size_t i = 0; i < mib; ++i)
+            out << block;
+    }
+    auto start = Clock::now();
+    run({"curl", "-s", "-k", "-o", (bench.dir / "curl.bin").string(),
+         lftpUrl(server, protocol) + "file-0.bin"});
+    report("curl", secondsSince(start), 1, bytes);
+    fs::remove(bench.dir / "curl.bin");
+
+    double t = bench.pollOnce(engineConfig(server, bench.dir / "tarnel"));
+    report("tarnel engine (list, fetch, verify, move, delete)", t, countFiles(bench.dir / "tarnel"),
+           bytes);
+    fs::remove_all(bench.dir);
+    return 0;
+}
+
+long residentKiB() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("VmRSS:"))
+            return std::stol(line.substr(6));
+    return -1;
+}
+
+double cpuSeconds() {
+    rusage u{};
+    getrusage(RUSAGE_SELF, &u);
+    return u.ru_utime.tv_sec + u.ru_utime.tv_usec / 1e6 + u.ru_stime.tv_sec +
+           u.ru_stime.tv_usec / 1e6;
+}
+
+int idleFleet(int connections, int seconds) {
+    int argc = 0;
+    QCoreApplication app(argc, nullptr);
+    const fs::path dir = fs::temp_directory_path() / "tarnel-bench-idle";
+    TestServer server({ServerProtocol::ftp, dir / "server"});
+    QtMainLoop loop;
+    SystemClock clock;
+    WorkerPool workers;
+    Runtime runtime{loop, clock, workers};
+    MemorySettingsStore store;
+    AppSettings settings{store, dir / "autostart.desktop"};
+    LogService log{loop, clock, dir / "Tarnel.log"};
+    StatsService stats{store, clock};
+    HistoryService history{loop, dir / "history.json"};
+    Silent silent;
+    NotificationService notifications{settings, silent};
+    ManualSleepMonitor sleep;
+    settings.setDiskSpaceWarningEnabled(false);
+
+    std::vector<ConnectionConfig> list;
+    for (int i = 0; i < connections; ++i) {
+        auto c = server.connectionConfig();
+        c.name = "Idle " + std::to_string(i);
+        c.localPath = (dir / "downloads").string();
+        c.pollInterval = 2;
+        list.push_back(c);
+    }
+    // The manager as the program builds it, engines and all.
+    store.setValue(ConnectionsManager::storageKey, encodeConnectionList(list));
+    auto manager = std::make_shared<ConnectionsManager>(
+        FleetServices{runtime, store, settings, log, stats, history, notifications, sleep, silent,
+                      dir / "partials.json", dir / "known_hosts"});
+    manager->startAll();
+    const double cpuBefore = cpuSeconds();
+    QTimer::singleShot(seconds * 1000, &app, [] { QCoreApplication::quit(); });
+    app.exec();
+    const double cpu = cpuSeconds() - cpuBefore;
+    std::printf("%d connections polling an empty FTP folder every 2 s for %d s:\n", connections,
+                seconds);
+    std::printf("  CPU %.2f s per minute (%.1f%% of one core), resident memory %.1f MiB\n",
+                cpu * 60 / seconds, cpu / seconds * 100, residentKiB() / 1024.0);
+    manager->stopAll();
+    log.flush();
+    std::_Exit(0);  // transfers in flight are not waited for, as in the program
+}
+
+}  // namespace
+}  // namespace tarnel
+
+int main(int argc, char** argv) {
+    using namespace tarnel;
+    const std::string mode = argc > 1 ? argv[1] : "";
+    const auto protocol =
+        argc > 2 && std::string(argv[2]) == "sftp" ? ServerProtocol::sftp : ServerProtocol::ftp;
+    const int number = argc > 3 ? std::atoi(argv[3]) : 0;
+    if (mode == "small-files")
+        return smallFiles(protocol, number > 0 ? number : 1000);
+    if (mode == "large-file")
+        return largeFile(protocol, number > 0 ? number : 1024);
+    if (mode == "idle-fleet")
+        return idleFleet(50, number > 0 ? number : 60);
+    std::fprintf(
+        stderr,
+        "usage: fleet_bench small-files|large-file [ftp|sftp] [N] | idle-fleet - [seconds]\n");
+    return 2;
+}

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "connections/connection_config.h"
+#include "transfer/easy_handle_pool.h"
+#include "transfer/ssh_known_hosts.h"
+
+namespace tarnel {
+
+// (downloaded, total) in whole-file bytes; a total of 0 means unknown.
+using ProgressCallback = std::function<void(std::int64_t downloaded, std::int64_t total)>;
+
+// The one place that talks libcurl. Turns a connection record into libcurl options and offers
+// blocking operations that throw FTPError. Callable from several threads at once; each
+// operation borrows its own easy handle from a small pool, so consecutive operations reuse
+// the session a handle keeps open. Never call it on the main thread.
+class CurlTransferClient {
+public:
+    // SFTP host keys are trusted on first use and recorded in `knownHostsFile`; a key that
+    // differs from the recorded one refuses the connection.
+    CurlTransferClient(ConnectionConfig config, std::filesystem::path knownHostsFile);
+
+    CurlTransferClient(const CurlTransferClient&) = delete;
+    CurlTransferClient& operator=(const CurlTransferClient&) = delete;
+
+    // Header text of a file below `remotePath`; "" if it is not UTF-8.
+    std::string fetchHeaders(const std::string& name);
+    // Long listing of the folder at `url` (ending in "/"); "" if it is not UTF-8.
+    std::string listDirectory(const std::string& url);
+    // Bare names of the folder at `url`; "" if it is not UTF-8.
+    std::string listNames(const std::string& url);
+    // Fetches `url` into `to`, appending from `resumeFrom` when that is above 0. A failed
+    // first attempt (offset 0) removes the local file; a failed resume keeps what it added.
+    void download(const std::string& url, const std::filesystem::path& to, std::int64_t resumeFrom,
+                  const ProgressCallback& onProgress);
+    // `path` is a full path from the server root.
+    void removeDirectory(const std::string& path);
+    // `name` is a path below `remotePath`.
+    void removeFile(const std::string& name);
+    // Reaches the server without logging in; a refused login counts as an answer. Always on a
+    // new handle, so it proves the server is there now.
+    void probeConnection();
+
+    // Drops the sessions kept open, so the next operation logs in afresh.
+    void closeIdleConnections() { pool_.closeAll(); }
+    // Connections libcurl has opened so far: a reused session opens none, though each FTP
+    // transfer opens its data connection.
+    std::int64_t connectionsOpened() const { return connectionsOpened_; }
+
+    const ConnectionConfig& config() const { return config_; }
+    const std::filesystem::path& knownHostsFile() const { return knownHostsFile_; }
+
+    // scheme://host:port/ — FTPS rides on the ftp scheme.
+    std::string serverRootURL() const;
+
+private:
+    void configureHandle(CURL* handle, const std::string& url);
+    std::string readText(const std::string& url, bool namesOnly, bool headersOnly);
+    void runQuote(const std::string& command);
+    // The lease's handle; code -1 if libcurl could not make one.
+    static CURL* handleOf(const EasyHandlePool::Lease& lease);
+    // curl_easy_perform, counting the connections it opened.
+    CURLcode perform(CURL* handle);
+    // Raises the FTPError users read for `code`.
+    [[noreturn]] void fail(CURLcode code) const;
+
+    ConnectionConfig config_;
+    std::filesystem::path knownHostsFile_;
+    KnownHostsPolicy hostKeyPolicy_;
+    EasyHandlePool pool_;
+    std::atomic<std::int64_t> connectionsOpened_{0};
+};
+
+// `name` with every byte outside the URL path characters as %XX; "/" stays, so subfolders may
+// be named. The raw name if that gives nothing.
+std::string percentEncodedPath(std::string_view name);
+
+// Whether the system resolver knows `host`.
+bool resolveHost(const std::string& host);
+
+}  // namespace tarnel

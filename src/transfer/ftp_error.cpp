@@ -1,0 +1,139 @@
+#include "transfer/ftp_error.h"
+
+#include <cstdio>
+#include <utility>
+
+#include <curl/curl.h>
+
+#include "platform/localized.h"
+#include "records/byte_count_format.h"
+#include "transfer/text_lines.h"
+
+namespace tarnel {
+namespace {
+
+// The partial-file sentence sits on CURLE_FTP_COULDNT_RETR_FILE, not on CURLE_PARTIAL_FILE:
+// a pairing users have long read, kept as it is.
+std::string curlCodeDescription(int code, const std::string& text) {
+    switch (code) {
+        case CURLE_COULDNT_RESOLVE_HOST:
+            return localized(
+                "Could not resolve host. Check that the hostname is correct and your DNS is "
+                "working.");
+        case CURLE_COULDNT_CONNECT:
+            return localized(
+                "Could not connect to server. Check the host, port, and that the server is "
+                "running.");
+        case CURLE_REMOTE_ACCESS_DENIED:
+            return localized(
+                "Access denied to the remote folder. Check that the path exists and you have "
+                "read permission.");
+        case CURLE_FTP_COULDNT_RETR_FILE:
+            return localized(
+                "Partial file received. The transfer was interrupted. It will retry "
+                "automatically.");
+        case CURLE_QUOTE_ERROR:
+            return localized(
+                "FTP quote command failed. Check the remote path or delete permissions.");
+        case CURLE_UPLOAD_FAILED:
+            return localized(
+                "Upload/store failed. The server rejected the operation. Check write "
+                "permissions on the server.");
+        case CURLE_OPERATION_TIMEDOUT:
+            return localized(
+                "Connection timed out. The server is too slow or unreachable. Try increasing "
+                "the timeout or check your network.");
+        case CURLE_SSL_CONNECT_ERROR:
+            return localized(
+                "SSL/TLS handshake failed. The server may not support FTPS, or the certificate "
+                "is invalid.");
+        case CURLE_PEER_FAILED_VERIFICATION:
+            return localized(
+                "SSL certificate verification failed. The server certificate may be "
+                "self-signed or expired.");
+        case CURLE_LOGIN_DENIED:
+            return localized("Authentication failed. Check your username and password.");
+        default: {
+            // The test is on the untrimmed text: blanks alone still give empty brackets.
+            const std::string detail = text.empty() ? "" : " (" + std::string(trimmed(text)) + ")";
+            return localized("Connection error (code " + std::to_string(code) + ")" + detail +
+                             ". Check your connection settings.");
+        }
+    }
+}
+
+}  // namespace
+
+FTPError::FTPError(Kind kind, int curlCode, std::string text, std::string description)
+    : kind_(kind),
+      curlCode_(curlCode),
+      text_(std::move(text)),
+      description_(std::move(description)) {}
+
+FTPError FTPError::curlExitCode(int code, std::string text) {
+    std::string description = curlCodeDescription(code, text);
+    return FTPError(Kind::curlExitCode, code, std::move(text), std::move(description));
+}
+
+FTPError FTPError::hostKeyChanged(const std::string& host,
+                                  const std::filesystem::path& knownHostsFile) {
+    std::string description = localized(
+        "The SFTP server's host key has changed since the last connection to " + host +
+        ". This can mean someone is intercepting the connection. If the change is expected "
+        "(the server was reinstalled or its key replaced), remove the line for " +
+        host + " from " + knownHostsFile.string() + " and connect again.");
+    return FTPError(Kind::curlExitCode, CURLE_PEER_FAILED_VERIFICATION, host,
+                    std::move(description));
+}
+
+FTPError FTPError::downloadFailed(std::string text) {
+    std::string description = localized("Download failed: " + text);
+    return FTPError(Kind::downloadFailed, 0, std::move(text), std::move(description));
+}
+
+FTPError FTPError::deleteFailed(std::string text) {
+    std::string description = localized("Delete failed: " + text);
+    return FTPError(Kind::deleteFailed, 0, std::move(text), std::move(description));
+}
+
+FTPError FTPError::parseFailed(std::string text) {
+    std::string description = localized("Parse error: " + text);
+    return FTPError(Kind::parseFailed, 0, std::move(text), std::move(description));
+}
+
+FTPError FTPError::sizeMismatch(std::int64_t expected, std::int64_t got) {
+    return FTPError(
+        Kind::sizeMismatch, 0, {},
+        localized("Size mismatch: expected " + formatFileByteCount(expected) + ", got " +
+                  formatFileByteCount(got) + ". The file may still be uploading."));
+}
+
+FTPError FTPError::emptyFile(std::string name) {
+    std::string description =
+        localized("Downloaded file '" + name +
+                  "' is empty. The remote file may be corrupted or still being written.");
+    return FTPError(Kind::emptyFile, 0, std::move(name), std::move(description));
+}
+
+FTPError FTPError::localFolderNotWritable(std::string path) {
+    std::string description =
+        localized("Cannot write to '" + path + "'. Check folder permissions in Finder > Get Info.");
+    return FTPError(Kind::localFolderNotWritable, 0, std::move(path), std::move(description));
+}
+
+FTPError FTPError::insufficientDiskSpace(double availableGB) {
+    char figure[64];
+    std::snprintf(figure, sizeof figure, "%.1f", availableGB);
+    return FTPError(Kind::insufficientDiskSpace, 0, {},
+                    localized(std::string("Only ") + figure +
+                              " GB of disk space remaining. Free up space to continue "
+                              "downloading."));
+}
+
+FTPError FTPError::bookmarkExpired(std::string path) {
+    std::string description =
+        localized("Access to '" + path + "' has expired. Please re-select the folder in Settings.");
+    return FTPError(Kind::bookmarkExpired, 0, std::move(path), std::move(description));
+}
+
+}  // namespace tarnel

@@ -1,0 +1,189 @@
+#include "transfer/ftp_service.h"
+
+#include "platform/localized.h"
+#include "transfer/ftp_error.h"
+#include "transfer/listing_parser.h"
+
+namespace tarnel {
+namespace {
+
+bool leadsTo(const std::string& relativePath, const std::vector<std::string>& allowedPaths) {
+    const auto withSlash = [](const std::string& p) { return p.ends_with('/') ? p : p + "/"; };
+    const std::string r = withSlash(relativePath);
+    for (const std::string& allowed : allowedPaths) {
+        const std::string a = withSlash(allowed);
+        // The folder lies in an allowed one, or is on the way to one.
+        if (r.starts_with(a) || a.starts_with(r)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+}  // namespace
+
+FTPService::FTPService(ConnectionConfig config, LogService& logService,
+                       std::unique_ptr<CurlTransferClient> client)
+    : config_(std::move(config)), logService_(logService), client_(std::move(client)) {}
+
+void FTPService::log(const std::string& text, LogLevel level) {
+    logService_.log("[" + config_.name + "] " + text, level);
+}
+
+std::vector<FTPFileEntry> FTPService::listFiles() {
+    const std::string url = config_.baseRemoteURL();
+    auto entries = parseListing(client_->listDirectory(url), false);
+    if (!entries.empty()) {
+        return entries;
+    }
+    // An empty folder lands here too: it cannot be told apart from an unreadable listing.
+    log("LIST returned unparseable output, falling back to NLST", LogLevel::warning);
+    const auto names = parseNameList(client_->listNames(url));
+    if (names.empty()) {
+        return {};
+    }
+    log("Fallback: NLST+SIZE for " + std::to_string(names.size()) + " name(s)", LogLevel::info);
+    return entriesFromNames(names);
+}
+
+std::vector<FTPFileEntry> FTPService::entriesFromNames(const std::vector<std::string>& names) {
+    std::vector<FTPFileEntry> entries;
+    for (const std::string& name : names) {
+        std::string headers;
+        try {
+            headers = client_->fetchHeaders(name);
+        } catch (const FTPError& error) {
+            log("HEAD failed for " + name + ": " + error.errorDescription(), LogLevel::warning);
+            continue;
+        }
+        if (const auto size = parseContentLength(headers)) {
+            entries.push_back(FTPFileEntry{name, *size, false, ""});
+        }
+    }
+    return entries;
+}
+
+std::vector<FTPFileEntry> FTPService::listFiles(const std::string& atPath) {
+    const std::string url = config_.remoteURL(atPath);
+    auto entries = parseListing(client_->listDirectory(url), true);
+    if (!entries.empty()) {
+        return entries;
+    }
+    for (std::string& name : parseNameList(client_->listNames(url))) {
+        entries.push_back(FTPFileEntry{std::move(name), 0, false, ""});
+    }
+    return entries;
+}
+
+void FTPService::collectFiles(const std::string& path, const std::string& relativePath, int depth,
+                              int maxDepth,
+                              const std::optional<std::vector<std::string>>& allowedPaths,
+                              std::vector<FTPFileEntry>& into) {
+    for (FTPFileEntry& entry : listFiles(path)) {
+        const std::string rel = relativePath.empty() ? entry.name : relativePath + "/" + entry.name;
+        if (!entry.isDirectory) {
+            entry.relativePath = rel;
+            into.push_back(std::move(entry));
+            continue;
+        }
+        if (depth >= maxDepth || (allowedPaths && !leadsTo(rel, *allowedPaths))) {
+            continue;
+        }
+        const std::string child = path.ends_with('/') ? path + entry.name : path + "/" + entry.name;
+        collectFiles(child, rel, depth + 1, maxDepth, allowedPaths, into);
+    }
+}
+
+std::filesystem::path FTPService::downloadFile(const std::string& name,
+                                               const std::filesystem::path& to,
+                                               std::int64_t resumeFrom,
+                                               const ProgressCallback& onProgress,
+                                               const std::optional<std::string>& remoteURL) {
+    const std::string source =
+        remoteURL ? *remoteURL : config_.baseRemoteURL() + percentEncodedPath(name);
+    client_->download(source, to, resumeFrom, onProgress);
+    if (!std::filesystem::exists(to)) {
+        throw FTPError::downloadFailed("File not found after download: " + name);
+    }
+    return to;
+}
+
+void FTPService::deleteFile(const std::string& name) {
+    client_->removeFile(name);
+}
+
+void FTPService::deleteDirectory(const std::string& path) {
+    client_->removeDirectory(path);
+}
+
+int FTPService::testConnectionSteps(const TestProgress& progress) {
+    std::vector<TestStep> steps(4);
+    steps[0].name = localized("DNS resolution");
+    steps[1].name = localized("TCP connection");
+    steps[2].name = localized("Authentication");
+    steps[3].name = localized("Remote folder access");
+
+    const auto set = [&](std::size_t row, TestStepStatus status,
+                         std::optional<std::string> detail = std::nullopt) {
+        steps[row].status = status;
+        steps[row].detail = std::move(detail);
+        progress(steps);
+    };
+    const auto failRow = [&](std::size_t row, std::string detail) {
+        set(row, TestStepStatus::failure, std::move(detail));
+    };
+
+    set(0, TestStepStatus::running);
+    if (!resolveHost(config_.host)) {
+        failRow(0, localized("Host '" + config_.host + "' not found"));
+        throw FTPError::curlExitCode(6, "DNS resolution failed");
+    }
+    set(0, TestStepStatus::success);
+
+    set(1, TestStepStatus::running);
+    try {
+        client_->probeConnection();
+    } catch (const FTPError& error) {
+        if (error.curlCode() != CURLE_LOGIN_DENIED) {
+            failRow(1, localized("Cannot connect to port " + std::to_string(config_.port)));
+            throw;
+        }
+    }
+    set(1, TestStepStatus::success);
+
+    // The login must be proven now, not ridden on a session opened earlier.
+    client_->closeIdleConnections();
+    set(2, TestStepStatus::running);
+    try {
+        listFiles();
+    } catch (const FTPError& error) {
+        if (error.curlCode() == CURLE_LOGIN_DENIED) {
+            failRow(2, localized("Wrong username or password"));
+            throw;
+        }
+        // The login worked and only the folder was refused: that is the next row's affair.
+        if (error.curlCode() != CURLE_REMOTE_ACCESS_DENIED) {
+            failRow(2, error.errorDescription());
+            throw;
+        }
+    } catch (const std::exception& error) {
+        failRow(2, error.what());
+        throw;
+    }
+    set(2, TestStepStatus::success);
+
+    set(3, TestStepStatus::running);
+    std::size_t count = 0;
+    try {
+        count = listFiles().size();
+    } catch (...) {
+        failRow(3, localized("Folder not accessible: " + config_.remotePath));
+        throw;
+    }
+    set(3, TestStepStatus::success,
+        localized(count == 1 ? std::string("1 file found")
+                             : std::to_string(count) + " files found"));
+    return static_cast<int>(count);
+}
+
+}  // namespace tarnel

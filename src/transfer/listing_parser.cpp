@@ -1,0 +1,134 @@
+#include "transfer/listing_parser.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "transfer/text_lines.h"
+
+namespace tarnel {
+namespace {
+
+// Pieces of `line` between runs of blanks (the blank character only: tabs do not split). With a
+// limit, the last piece is the whole rest of the line, inner blanks kept.
+std::vector<std::string_view> splitOnBlanks(std::string_view line, std::size_t limit = 0) {
+    std::vector<std::string_view> pieces;
+    std::size_t pos = 0;
+    while (pos < line.size()) {
+        pos = line.find_first_not_of(' ', pos);
+        if (pos == std::string_view::npos) {
+            break;
+        }
+        if (limit != 0 && pieces.size() + 1 == limit) {
+            pieces.push_back(line.substr(pos));
+            break;
+        }
+        const std::size_t end = std::min(line.find(' ', pos), line.size());
+        pieces.push_back(line.substr(pos, end - pos));
+        pos = end;
+    }
+    return pieces;
+}
+
+std::string joinedFrom(const std::vector<std::string_view>& pieces, std::size_t first) {
+    std::string joined;
+    for (std::size_t i = first; i < pieces.size(); ++i) {
+        if (i > first) {
+            joined += ' ';
+        }
+        joined += pieces[i];
+    }
+    return joined;
+}
+
+}  // namespace
+
+std::vector<FTPFileEntry> parseListing(std::string_view text, bool includeDirectories) {
+    std::vector<FTPFileEntry> entries;
+    for (std::string_view line : splitLines(text)) {
+        line = trimmed(line);
+        if (line.empty()) {
+            continue;
+        }
+        auto entry = parseUnixLine(line);
+        if (!entry) {
+            entry = parseDosLine(line);
+        }
+        if (entry && (includeDirectories || !entry->isDirectory)) {
+            entries.push_back(std::move(*entry));
+        }
+    }
+    return entries;
+}
+
+std::optional<FTPFileEntry> parseUnixLine(std::string_view line) {
+    if (line.empty() || (line[0] != '-' && line[0] != 'd' && line[0] != 'l')) {
+        return std::nullopt;
+    }
+    const auto pieces = splitOnBlanks(line, 9);
+    if (pieces.size() < 9) {
+        return std::nullopt;
+    }
+    const auto size = parseInt64(pieces[4]);
+    if (!size || pieces[8].starts_with('.')) {
+        return std::nullopt;
+    }
+    // Cut at the first arrow on every row, links or not: a file named "a -> b" lists as "a".
+    std::string_view name = pieces[8];
+    name = name.substr(0, name.find(" -> "));
+    return FTPFileEntry{std::string(name), *size, line[0] == 'd', ""};
+}
+
+std::optional<FTPFileEntry> parseDosLine(std::string_view line) {
+    if (line.size() < 11 || line[2] != '-' || line[5] != '-') {
+        return std::nullopt;
+    }
+    const bool isDirectory = line.find("<DIR>") != std::string_view::npos;
+    const auto pieces = splitOnBlanks(line);
+    if (pieces.size() < 4) {
+        return std::nullopt;
+    }
+    // The name is put back together from pieces, so runs of blanks in it become one blank.
+    std::string name = joinedFrom(pieces, 3);
+    if (name.starts_with('.')) {
+        return std::nullopt;
+    }
+    if (isDirectory) {
+        return FTPFileEntry{std::move(name), 0, true, ""};
+    }
+    const auto size = parseInt64(pieces[2]);
+    if (!size) {
+        return std::nullopt;
+    }
+    return FTPFileEntry{std::move(name), *size, false, ""};
+}
+
+std::optional<std::int64_t> parseContentLength(std::string_view headers) {
+    static constexpr std::string_view key = "content-length:";
+    for (std::string_view line : splitLines(headers)) {
+        if (line.size() < key.size() ||
+            !std::equal(key.begin(), key.end(), line.begin(), [](char k, char c) {
+                return k == std::tolower(static_cast<unsigned char>(c));
+            })) {
+            continue;
+        }
+        const std::string_view value = trimmed(line.substr(key.size()));
+        if (value.empty()) {
+            return std::nullopt;
+        }
+        return parseInt64(value);
+    }
+    return std::nullopt;
+}
+
+std::vector<std::string> parseNameList(std::string_view text) {
+    std::vector<std::string> names;
+    for (std::string_view line : splitLines(text)) {
+        line = trimmed(line);
+        if (!line.empty() && !line.starts_with('.')) {
+            names.emplace_back(line);
+        }
+    }
+    return names;
+}
+
+}  // namespace tarnel

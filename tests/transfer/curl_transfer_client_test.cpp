@@ -1,0 +1,207 @@
+#include "transfer/curl_transfer_client.h"
+
+#include <gtest/gtest.h>
+
+#include "transfer/ftp_error.h"
+#include "transfer/listing_parser.h"
+#include "transfer/ssh_known_hosts.h"
+#include "transfer_fixture.h"
+
+namespace tarnel {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ServerProtocol;
+
+// Runs `op`, expecting an FTPError, and returns it.
+template <typename Op>
+FTPError failureOf(Op op) {
+    try {
+        op();
+    } catch (const FTPError& e) {
+        return e;
+    }
+    ADD_FAILURE() << "no FTPError";
+    return FTPError::parseFailed("none");
+}
+
+using ClientTest = TransferTest;
+
+TEST_P(ClientTest, everyOperationRidesOnOneSession) {
+    const std::string body = randomBytes(300'000);
+    write(root / "a.txt", body);
+    write(root / "sub dir" / "b c.txt", "bc");
+    auto client = makeClient();
+    const std::string base = client->config().baseRemoteURL();
+
+    const auto rows = parseListing(client->listDirectory(base), true);
+    EXPECT_NE(std::find(rows.begin(), rows.end(), FTPFileEntry{"a.txt", 300'000, false, ""}),
+              rows.end());
+    EXPECT_EQ(parseListing(client->listDirectory(base + "sub%20dir/"), false),
+              (std::vector<FTPFileEntry>{{"b c.txt", 2, false, ""}}));
+    const auto names = parseNameList(client->listNames(base));
+    EXPECT_NE(std::find(names.begin(), names.end(), "sub dir"), names.end());
+
+    const fs::path local = dir / "local" / "a.txt";
+    std::int64_t lastDownloaded = 0, lastTotal = 0;
+    client->download(base + "a.txt", local, 0, {});
+    EXPECT_EQ(read(local), body);
+
+    // Resume: the callback sees whole-file figures.
+    write(local, body.substr(0, 100'000));
+    client->download(base + "a.txt", local, 100'000, [&](std::int64_t d, std::int64_t t) {
+        lastDownloaded = d;
+        lastTotal = t;
+    });
+    EXPECT_EQ(read(local), body);
+    EXPECT_EQ(lastDownloaded, 300'000);
+    EXPECT_EQ(lastTotal, 300'000);
+
+    // A blank in the path: raw for FTP's DELE, quoted for SFTP's rm.
+    client->removeFile("sub dir/b c.txt");
+    EXPECT_FALSE(fs::exists(root / "sub dir" / "b c.txt"));
+    client->removeDirectory("sub dir");
+    EXPECT_FALSE(fs::exists(root / "sub dir"));
+    // One session for all seven operations; FTP adds a data connection to each.
+    const bool ftp = protocol() != ServerProtocol::sftp;
+    EXPECT_EQ(client->connectionsOpened(), ftp ? 1 + 7 : 1);
+
+    client->probeConnection();  // a new connection of its own
+    EXPECT_EQ(client->connectionsOpened(), ftp ? 9 : 2);
+    client->closeIdleConnections();
+    client->listNames(base);
+    EXPECT_EQ(client->connectionsOpened(), ftp ? 11 : 3);
+}
+
+TEST_P(ClientTest, aFailedFirstAttemptLeavesNothingAResumedOneKeepsItsBytes) {
+    const std::string body = randomBytes(8'000'000);
+    write(root / "big.bin", body);
+    auto client = makeClient();
+    const std::string url = client->config().baseRemoteURL() + "big.bin";
+    const fs::path local = dir / "local" / "big.bin";
+
+    // Far past the receive buffer: what libssh2 still held when the cut came is lost.
+    server->cutTransfersAfter(4'000'000);
+    write(local, "older bytes");
+    EXPECT_NE(failureOf([&] { client->download(url, local, 0, {}); }).curlCode(), 0);
+    EXPECT_FALSE(fs::exists(local));
+
+    write(local, body.substr(0, 1000));
+    EXPECT_NE(failureOf([&] { client->download(url, local, 1000, {}); }).curlCode(), 0);
+    const std::string kept = read(local);
+    EXPECT_GT(kept.size(), 1000u);
+    EXPECT_EQ(kept, body.substr(0, kept.size()));
+
+    server->cutTransfersAfter(std::nullopt);
+    client->download(url, local, static_cast<std::int64_t>(kept.size()), {});
+    EXPECT_EQ(read(local), body);
+
+    const fs::path unwritable = dir / "missing folder" / "x";
+    EXPECT_EQ(failureOf([&] { client->download(url, unwritable, 0, {}); }).kind(),
+              FTPError::Kind::localFolderNotWritable);
+}
+
+TEST_P(ClientTest, serverRefusalsBecomeTheirSentences) {
+    write(root / "keep.txt", "k");
+    auto client = makeClient();
+    const std::string base = client->config().baseRemoteURL();
+
+    server->refuseDeletes(true);
+    const FTPError refusedDelete = failureOf([&] { client->removeFile("keep.txt"); });
+    EXPECT_EQ(refusedDelete.curlCode(), CURLE_QUOTE_ERROR);
+    EXPECT_EQ(refusedDelete.errorDescription(),
+              "FTP quote command failed. Check the remote path or delete permissions.");
+    EXPECT_TRUE(fs::exists(root / "keep.txt"));
+
+    // FTP refuses the folder change; SFTP says the folder is not there.
+    const int missing = failureOf([&] { client->listDirectory(base + "nope/"); }).curlCode();
+    EXPECT_EQ(missing, protocol() == ServerProtocol::sftp ? CURLE_REMOTE_FILE_NOT_FOUND
+                                                          : CURLE_REMOTE_ACCESS_DENIED);
+
+    server->refuseLogins(true);
+    client->closeIdleConnections();
+    const FTPError login = failureOf([&] { client->listDirectory(base); });
+    EXPECT_EQ(login.curlCode(), CURLE_LOGIN_DENIED);
+    EXPECT_EQ(login.errorDescription(), "Authentication failed. Check your username and password.");
+    client->probeConnection();  // a refused login still answers the probe
+
+    server->stop();
+    client->closeIdleConnections();
+    EXPECT_EQ(failureOf([&] { client->listDirectory(base); }).errorDescription(),
+              "Could not connect to server. Check the host, port, and that the server is running.");
+    EXPECT_EQ(failureOf([&] { client->probeConnection(); }).curlCode(), CURLE_COULDNT_CONNECT);
+}
+
+INSTANTIATE_TEST_SUITE_P(Servers, ClientTest,
+                         ::testing::Values(ServerProtocol::ftp, ServerProtocol::ftps,
+                                           ServerProtocol::sftp),
+                         protocolLabel);
+
+class FtpClientTest : public TransferTest {
+    ServerProtocol protocol() const override { return ServerProtocol::ftp; }
+};
+
+TEST_F(FtpClientTest, headersCarryTheSizeOfAnEncodedName) {
+    write(root / "in" / "a b%.txt", std::string(42, 'x'));
+    auto config = server->connectionConfig();
+    config.remotePath = "/in";
+    EXPECT_EQ(parseContentLength(makeClient(config)->fetchHeaders("a b%.txt")), 42);
+    EXPECT_EQ(percentEncodedPath("sub/a b%?#é.txt"), "sub/a%20b%25%3F%23%C3%A9.txt");
+}
+
+TEST_F(FtpClientTest, tlsAskedOfAPlainServerIsRefused) {
+    auto config = server->connectionConfig();
+    config.transferProtocol = TransferProtocol::ftps;
+    EXPECT_EQ(
+        failureOf([&] { makeClient(config)->listDirectory(config.baseRemoteURL()); }).curlCode(),
+        CURLE_USE_SSL_FAILED);
+}
+
+class FtpsClientTest : public TransferTest {
+    ServerProtocol protocol() const override { return ServerProtocol::ftps; }
+};
+
+TEST_F(FtpsClientTest, anUntrustedCertificateIsRefusedWithItsSentence) {
+    auto config = server->connectionConfig();
+    config.allowSelfSignedCerts = false;
+    const FTPError error =
+        failureOf([&] { makeClient(config)->listDirectory(config.baseRemoteURL()); });
+    EXPECT_EQ(error.errorDescription(),
+              "SSL certificate verification failed. The server certificate may be self-signed or "
+              "expired.");
+}
+
+class SftpClientTest : public TransferTest {
+    ServerProtocol protocol() const override { return ServerProtocol::sftp; }
+};
+
+TEST_F(SftpClientTest, hostKeysAreTrustedOnFirstUseAndAChangeIsRefused) {
+    const auto config = server->connectionConfig();
+    makeClient(config)->listNames(config.baseRemoteURL());
+    const std::string recorded = read(dir / "known_hosts");
+    const std::string hostPort = "[127.0.0.1]:" + std::to_string(server->port());
+    EXPECT_TRUE(recorded.starts_with(hostPort + " ssh-ed25519 AAAA")) << recorded;
+    makeClient(config)->listNames(config.baseRemoteURL());  // the recorded key matches
+    EXPECT_EQ(read(dir / "known_hosts"), recorded);
+
+    // Another key on record for this host and port: someone else answers now.
+    std::string otherKey =
+        std::string("\0\0\0\x0bssh-ed25519\0\0\0\x20", 19) + std::string(32, 'k');
+    write(dir / "known_hosts", knownHostsLine("127.0.0.1", server->port(), otherKey) + "\n");
+    const FTPError error =
+        failureOf([&] { makeClient(config)->listNames(config.baseRemoteURL()); });
+    EXPECT_EQ(error.curlCode(), CURLE_PEER_FAILED_VERIFICATION);
+    EXPECT_NE(error.errorDescription().find((dir / "known_hosts").string()), std::string::npos);
+}
+
+TEST_F(SftpClientTest, logsInWithAKeyFile) {
+    write(root / "k.txt", "key");
+    auto config = server->connectionConfig();
+    config.password = "";
+    config.sshKeyPath = server->clientKeyPath().string();
+    makeClient(config)->download(config.baseRemoteURL() + "k.txt", dir / "local" / "k.txt", 0, {});
+    EXPECT_EQ(read(dir / "local" / "k.txt"), "key");
+}
+
+}  // namespace
+}  // namespace tarnel

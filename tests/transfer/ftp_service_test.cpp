@@ -1,0 +1,180 @@
+#include "transfer/ftp_service.h"
+
+#include <algorithm>
+
+#include <gtest/gtest.h>
+
+#include "platform/testing/virtual_loop.h"
+#include "transfer/ftp_error.h"
+#include "transfer_fixture.h"
+
+namespace tarnel {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ServerProtocol;
+
+class ServiceTest : public TransferTest {
+protected:
+    FTPService makeService(const ConnectionConfig& config) {
+        return FTPService(config, logService, makeClient(config));
+    }
+    FTPService makeService() { return makeService(server->connectionConfig()); }
+
+    std::vector<std::string> logged() {
+        loop.runUntilIdle();
+        std::vector<std::string> lines;
+        for (const auto& e : logService.entries().value()) {
+            lines.push_back(e.message);
+        }
+        return lines;
+    }
+
+    static std::vector<std::string> relativePaths(const std::vector<FTPFileEntry>& entries) {
+        std::vector<std::string> paths;
+        for (const auto& e : entries) {
+            paths.push_back(e.relativePath);
+        }
+        std::sort(paths.begin(), paths.end());
+        return paths;
+    }
+
+    VirtualLoop loop;
+    LogService logService{loop, loop, fs::temp_directory_path() / "tarnel-transfer-test.log"};
+};
+
+TEST_P(ServiceTest, listsAndWalksTheServersOwnOutput) {
+    write(root / "x.txt", "12345");
+    write(root / "a" / "f.txt", "f");
+    write(root / "a" / "b" / "c" / "deep.txt", "d");
+    write(root / "a" / "x" / "no.txt", "n");
+    write(root / "z" / "no.txt", "n");
+    write(root / ".hidden", "h");
+    auto service = makeService();
+
+    EXPECT_EQ(service.listFiles(), (std::vector<FTPFileEntry>{{"x.txt", 5, false, ""}}));
+    const auto atA = service.listFiles("/a");
+    EXPECT_EQ(atA.size(), 3u);
+    EXPECT_EQ(std::count_if(atA.begin(), atA.end(), [](auto& e) { return e.isDirectory; }), 2);
+
+    // Only folders on the way to, or inside, a/b are entered; files on the way are collected.
+    std::vector<FTPFileEntry> walked;
+    const std::vector<std::string> allowed = {"a/b"};
+    service.collectFiles("/", "", 0, 3, allowed, walked);
+    EXPECT_EQ(relativePaths(walked),
+              (std::vector<std::string>{"a/b/c/deep.txt", "a/f.txt", "x.txt"}));
+
+    walked.clear();
+    service.collectFiles("/", "", 0, 1, std::nullopt, walked);
+    EXPECT_EQ(relativePaths(walked), (std::vector<std::string>{"a/f.txt", "x.txt", "z/no.txt"}));
+
+    walked.clear();
+    EXPECT_THROW(service.collectFiles("/missing", "", 0, 3, std::nullopt, walked), FTPError);
+}
+
+TEST_P(ServiceTest, anEmptyFolderFallsBackToANameListAndWarns) {
+    auto service = makeService();
+    EXPECT_TRUE(service.listFiles().empty());
+    EXPECT_EQ(logged(),
+              (std::vector<std::string>{
+                  "[Test " + std::string(protocolName(service.config().transferProtocol)) +
+                  "] LIST returned unparseable output, falling "
+                  "back to NLST"}));
+}
+
+TEST_P(ServiceTest, downloadsByNameOrByTheGivenURL) {
+    write(root / "in" / "a b.txt", "hello");
+    auto config = server->connectionConfig();
+    config.remotePath = "/in";
+    auto service = makeService(config);
+    const fs::path local = dir / "local" / "a.partial";
+    EXPECT_EQ(service.downloadFile("a b.txt", local, 0, {}, std::nullopt), local);
+    EXPECT_EQ(read(local), "hello");
+    // With a URL the name only names the file in messages.
+    service.downloadFile("ignored", local, 0, {}, config.baseRemoteURL() + "a%20b.txt");
+    EXPECT_EQ(read(local), "hello");
+    service.deleteFile("a b.txt");
+    service.deleteDirectory("/in");
+    EXPECT_FALSE(fs::exists(root / "in"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Servers, ServiceTest,
+                         ::testing::Values(ServerProtocol::ftp, ServerProtocol::ftps,
+                                           ServerProtocol::sftp),
+                         protocolLabel);
+
+// The rows as the editor sees them after the last change: status and detail.
+struct Rows {
+    std::vector<FTPService::TestStep> last;
+    int calls = 0;
+    FTPService::TestProgress progress() {
+        return [this](const std::vector<FTPService::TestStep>& steps) {
+            last = steps;
+            ++calls;
+        };
+    }
+    std::vector<TestStepStatus> statuses() const {
+        std::vector<TestStepStatus> s;
+        for (const auto& step : last) {
+            s.push_back(step.status);
+        }
+        return s;
+    }
+};
+
+using S = TestStepStatus;
+
+class ConnectionTest : public ServiceTest {
+    ServerProtocol protocol() const override { return ServerProtocol::ftp; }
+};
+
+TEST_F(ConnectionTest, aLiveServerPassesEveryRow) {
+    write(root / "one.txt", "1");
+    auto service = makeService();
+    Rows rows;
+    EXPECT_EQ(service.testConnectionSteps(rows.progress()), 1);
+    EXPECT_EQ(rows.statuses(), (std::vector<S>{S::success, S::success, S::success, S::success}));
+    EXPECT_EQ(rows.last[0].name, "DNS resolution");
+    EXPECT_EQ(rows.last[3].detail, "1 file found");
+    EXPECT_EQ(rows.calls, 8);  // a start and an end per row
+}
+
+TEST_F(ConnectionTest, eachFaultStopsAtItsOwnRow) {
+    auto config = server->connectionConfig();
+    config.password = "wrong";
+    Rows wrongPassword;
+    EXPECT_THROW(makeService(config).testConnectionSteps(wrongPassword.progress()), FTPError);
+    EXPECT_EQ(wrongPassword.statuses(),
+              (std::vector<S>{S::success, S::success, S::failure, S::pending}));
+    EXPECT_EQ(wrongPassword.last[2].detail, "Wrong username or password");
+
+    config = server->connectionConfig();
+    config.remotePath = "/nope";
+    Rows wrongFolder;
+    EXPECT_THROW(makeService(config).testConnectionSteps(wrongFolder.progress()), FTPError);
+    EXPECT_EQ(wrongFolder.statuses(),
+              (std::vector<S>{S::success, S::success, S::success, S::failure}));
+    EXPECT_EQ(wrongFolder.last[3].detail, "Folder not accessible: /nope");
+
+    config.host = "no-such-host.invalid";
+    Rows unknownHost;
+    try {
+        makeService(config).testConnectionSteps(unknownHost.progress());
+        ADD_FAILURE() << "no error";
+    } catch (const FTPError& e) {
+        EXPECT_EQ(e.curlCode(), CURLE_COULDNT_RESOLVE_HOST);
+    }
+    EXPECT_EQ(unknownHost.statuses(),
+              (std::vector<S>{S::failure, S::pending, S::pending, S::pending}));
+    EXPECT_EQ(unknownHost.last[0].detail, "Host 'no-such-host.invalid' not found");
+
+    server->stop();
+    Rows noServer;
+    EXPECT_THROW(makeService().testConnectionSteps(noServer.progress()), FTPError);
+    EXPECT_EQ(noServer.statuses(),
+              (std::vector<S>{S::success, S::failure, S::pending, S::pending}));
+    EXPECT_EQ(noServer.last[1].detail, "Cannot connect to port " + std::to_string(server->port()));
+}
+
+}  // namespace
+}  // namespace tarnel
