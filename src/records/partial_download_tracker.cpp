@@ -62,36 +62,46 @@ PartialDownloadTracker::PartialDownloadTracker(std::filesystem::path partialsFil
       lastWrite_(clock_.now()) {}
 
 PartialDownloadTracker::~PartialDownloadTracker() {
-    std::lock_guard lock(mutex_);
-    if (unsaved_)
-        saveLocked();
+    flush();
 }
 
 void PartialDownloadTracker::flush() {
-    std::unique_lock lock(mutex_);
-    saveAndWait(lock);
-}
-
-void PartialDownloadTracker::saveLocked() {
-    auto array = nlohmann::json::array();
-    for (const auto& [key, p] : partials_)
-        array.push_back(toJson(p));
-    lastWrite_ = clock_.now();
-    unsaved_ = false;
-    // Queued under the lock, so snapshots reach the disk in the order they were taken.
-    queue_.async([file = file_, text = array.dump()] { replaceFileAtomically(file, text); });
-}
-
-void PartialDownloadTracker::saveAndWait(std::unique_lock<std::mutex>& lock) {
-    saveLocked();
-    lock.unlock();
+    {
+        std::lock_guard lock(mutex_);
+        if (unsaved_)
+            saveLocked();
+    }
     queue_.drain();
 }
 
+void PartialDownloadTracker::saveLocked() {
+    lastWrite_ = clock_.now();
+    unsaved_ = false;
+    // One write in the queue at a time, which takes the records as they are when it runs: a
+    // batch of small files costs a few writes, not two for each file. A record that had not
+    // reached the disk when the program died leaves its temporary file as an orphan, swept at
+    // the next start; nothing is lost but the bytes of that attempt.
+    if (writeQueued_)
+        return;
+    writeQueued_ = true;
+    queue_.async([this] {
+        std::string text;
+        {
+            std::lock_guard lock(mutex_);
+            writeQueued_ = false;
+            auto array = nlohmann::json::array();
+            for (const auto& [key, p] : partials_)
+                array.push_back(toJson(p));
+            text = array.dump();
+        }
+        replaceFileAtomically(file_, text);
+    });
+}
+
 void PartialDownloadTracker::record(const PartialDownload& partial) {
-    std::unique_lock lock(mutex_);
+    std::lock_guard lock(mutex_);
     partials_.insert_or_assign(partial.remotePath, partial);
-    saveAndWait(lock);
+    saveLocked();
 }
 
 std::optional<PartialDownload> PartialDownloadTracker::partial(
@@ -116,31 +126,31 @@ void PartialDownloadTracker::updateProgress(const std::string& remotePath, std::
 }
 
 void PartialDownloadTracker::incrementResumeAttempts(const std::string& remotePath) {
-    std::unique_lock lock(mutex_);
+    std::lock_guard lock(mutex_);
     auto it = partials_.find(remotePath);
     if (it == partials_.end())
         return;
     it->second.resumeAttempts += 1;
     it->second.lastResumedAt = clock_.now();
-    saveAndWait(lock);
+    saveLocked();
 }
 
 void PartialDownloadTracker::remove(const std::string& remotePath) {
-    std::unique_lock lock(mutex_);
+    std::lock_guard lock(mutex_);
     if (partials_.erase(remotePath) == 0)
         return;
-    saveAndWait(lock);
+    saveLocked();
 }
 
 void PartialDownloadTracker::discard(const std::string& remotePath) {
-    std::unique_lock lock(mutex_);
+    std::lock_guard lock(mutex_);
     auto it = partials_.find(remotePath);
     if (it == partials_.end())
         return;
     std::error_code ignored;  // a file that stays is swept as an orphan at the next start
     std::filesystem::remove(it->second.localTempPath, ignored);
     partials_.erase(it);
-    saveAndWait(lock);
+    saveLocked();
 }
 
 std::vector<std::filesystem::path> PartialDownloadTracker::orphanedFiles(

@@ -30,10 +30,10 @@ struct PartialDownload {
 
 // The records of partial downloads of all engines, kept across restarts in "partials.json".
 // Records are keyed by tracking key alone: two connections with the same key share one record.
-// Every operation is callable from any thread and returns once its change is on disk, except
-// updateProgress, which transfers call on every progress callback: it changes the record at
-// once but writes the file at most once per `progressWriteInterval`, so the file holds a recent
-// byte count without a disk write per packet.
+// Every operation is callable from any thread and changes the records at once; the writer
+// thread replaces the file soon after, one write covering all changes made meanwhile.
+// updateProgress, which transfers call on every progress callback, writes at most once per
+// `progressWriteInterval`, so the file holds a recent byte count without a write per packet.
 class PartialDownloadTracker {
 public:
     static constexpr std::chrono::milliseconds progressWriteInterval{1000};
@@ -66,9 +66,8 @@ public:
     void flush();
 
 private:
-    // Both called with mutex_ held: queue the current records for writing, and wait for it.
+    // Called with mutex_ held: have the records written, soon, by the writer thread.
     void saveLocked();
-    void saveAndWait(std::unique_lock<std::mutex>& lock);
 
     std::filesystem::path file_;
     const Clock& clock_;
@@ -76,6 +75,7 @@ private:
     std::map<std::string, PartialDownload> partials_;
     TimePoint lastWrite_;
     bool unsaved_ = false;
+    bool writeQueued_ = false;
     SerialQueue queue_;  // last: its thread must stop before the rest goes
 };
 

@@ -52,6 +52,7 @@ TEST_F(PartialDownloadTrackerTest, UnreadableFilesGiveAnEmptyStore) {
         PartialDownloadTracker tracker(file, &clock);
         EXPECT_FALSE(tracker.partial("a.zip"));
         tracker.record(sample("b.zip"));
+        tracker.flush();
         EXPECT_TRUE(PartialDownloadTracker(file, &clock).partial("b.zip"));
     }
 }
@@ -60,13 +61,14 @@ TEST_F(PartialDownloadTrackerTest, ProgressIsWrittenAtAPacedRate) {
     {
         PartialDownloadTracker tracker(file, &clock);
         tracker.record(sample("a.zip"));
+        tracker.flush();
         for (int i = 1; i <= 500; ++i)
             tracker.updateProgress("a.zip", i);
         EXPECT_EQ(tracker.partial("a.zip")->downloadedBytes, 500);
         EXPECT_EQ(bytesOnDisk(), 0);
         clock.advance(PartialDownloadTracker::progressWriteInterval);
         tracker.updateProgress("a.zip", 600);
-        tracker.incrementResumeAttempts("a.zip");  // waits for its write: the file is current
+        tracker.flush();
         EXPECT_EQ(bytesOnDisk(), 600);
         tracker.updateProgress("a.zip", 700);
     }
