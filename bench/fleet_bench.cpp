@@ -4,12 +4,14 @@
 //                --Remove-source-files and rclone move --transfers 4.
 //   large-file   one 1 GiB file through the engine, beside the curl tool.
 //   idle-fleet   50 connections polling an empty folder every 2 s: CPU per minute, memory.
-// Usage: fleet_bench small-files|large-file|idle-fleet [ftp|sftp] [count-or-MiB]
+// Usage: fleet_bench small-files [ftp|sftp] [count] [folder] | large-file [ftp|sftp] [MiB]
+//        | idle-fleet - [seconds]
 #include <chrono>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
 #include <random>
+#include <thread>
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -94,6 +96,25 @@ std::string capture(std::vector<std::string> argv) {
     return out;
 }
 
+// Each small-file run leaves a socket in TIME_WAIT for every data connection, and the server's
+// passive-mode binds slow down while thousands remain: each contender starts once they are gone.
+void settleSockets() {
+    auto timeWaits = [] {
+        int n = 0;
+        for (const char* table : {"/proc/net/tcp", "/proc/net/tcp6"}) {
+            std::ifstream in(table);
+            std::string sl, local, remote, state, line;
+            std::getline(in, line);
+            while (in >> sl >> local >> remote >> state && std::getline(in, line))
+                if (state == "06") ++n;
+        }
+        return n;
+    };
+    const auto until = Clock::now() + std::chrono::seconds(75);
+    while (timeWaits() > 50 && Clock::now() < until)
+        std::this_thread::sleep_for(std::chrono::seconds(1));
+}
+
 void fill(const fs::path& root, int count, std::size_t size) {
     std::mt19937 random(42);
     std::string bytes(size, '\0');
@@ -104,17 +125,22 @@ void fill(const fs::path& root, int count, std::size_t size) {
     }
 }
 
+// Files that arrived below `root`; none when a contender failed to make it.
 std::size_t countFiles(const fs::path& root) {
     std::size_t n = 0;
-    for (auto& e : fs::recursive_directory_iterator(root))
-        if (e.is_regular_file())
+    std::error_code ec;
+    for (auto it = fs::recursive_directory_iterator(root, ec);
+         !ec && it != fs::recursive_directory_iterator(); it.increment(ec))
+        if (it->is_regular_file())
             ++n;
     return n;
 }
 
 // Everything an engine needs, on a loop that runs worker jobs for real.
 struct Bench {
-    fs::path dir = fs::temp_directory_path() / "tarnel-bench";
+    // tmpfs: on this machine ext4 inode allocation slows with every create and delete, which
+    // would measure the disk's history rather than the programs.
+    fs::path dir = "/dev/shm/tarnel-bench";
     WorkerPool workers;
     VirtualLoop loop{&workers};
     Runtime runtime{loop, loop, workers};
@@ -174,20 +200,29 @@ void report(const std::string& who, double seconds, std::size_t files, std::uint
                 files / seconds, bytes / seconds / 1e6);
 }
 
-int smallFiles(ServerProtocol protocol, int count) {
+// `folder` empty: the files lie in the server's root, which the client lists again after each
+// delete (libcurl goes on to its usual work on the root URL after the quote command).
+int smallFiles(ServerProtocol protocol, int count, const std::string& folder) {
     Bench bench;
     TestServer server({protocol, bench.dir / "server"});
+    const fs::path source = server.root() / folder;
+    fs::create_directories(source);
+    const std::string remote = folder.empty() ? "" : folder + "/";
     const std::size_t size = 10 * 1024;
-    std::printf("%d files of 10 KB over %s (delete after download, 4 at a time)\n", count,
-                protocol == ServerProtocol::sftp ? "SFTP" : "FTP");
+    std::printf("%d files of 10 KB over %s in %s (delete after download, 4 at a time)\n", count,
+                protocol == ServerProtocol::sftp ? "SFTP" : "FTP", ("/" + remote).c_str());
 
     auto target = bench.dir / "tarnel";
-    fill(server.root(), count, size);
-    double t = bench.pollOnce(engineConfig(server, target));
+    fill(source, count, size);
+    settleSockets();
+    auto config = engineConfig(server, target);
+    config.remotePath = "/" + folder;
+    double t = bench.pollOnce(config);
     report("tarnel engine", t, countFiles(target), std::uint64_t(count) * size);
 
     target = bench.dir / "lftp";
-    fill(server.root(), count, size);
+    fill(source, count, size);
+    settleSockets();
     std::string sftpSetup =
         "set sftp:auto-confirm yes; set sftp:connect-program 'ssh -a -x -o "
         "StrictHostKeyChecking=no -o UserKnownHostsFile=/dev/null';";
@@ -199,9 +234,11 @@ int smallFiles(ServerProtocol protocol, int count) {
            std::uint64_t(count) * size);
 
     target = bench.dir / "rclone";
-    fill(server.root(), count, size);
+    fill(source, count, size);
+    settleSockets();
     start = Clock::now();
-    run({"rclone", "move", "--transfers", "4", rcloneRemote(server, protocol), target.string()});
+    run({"rclone", "move", "--transfers", "4", rcloneRemote(server, protocol) + "/" + remote,
+         target.string()});
     report("rclone move --transfers 4", secondsSince(start), countFiles(target),
            std::uint64_t(count) * size);
     fs::remove_all(bench.dir);
@@ -255,7 +292,7 @@ double cpuSeconds() {
 int idleFleet(int connections, int seconds) {
     int argc = 0;
     QCoreApplication app(argc, nullptr);
-    const fs::path dir = fs::temp_directory_path() / "tarnel-bench-idle";
+    const fs::path dir = "/dev/shm/tarnel-bench-idle";
     TestServer server({ServerProtocol::ftp, dir / "server"});
     QtMainLoop loop;
     SystemClock clock;
@@ -303,18 +340,19 @@ int idleFleet(int connections, int seconds) {
 
 int main(int argc, char** argv) {
     using namespace tarnel;
+    std::setvbuf(stdout, nullptr, _IOLBF, 0);
     const std::string mode = argc > 1 ? argv[1] : "";
     const auto protocol =
         argc > 2 && std::string(argv[2]) == "sftp" ? ServerProtocol::sftp : ServerProtocol::ftp;
     const int number = argc > 3 ? std::atoi(argv[3]) : 0;
     if (mode == "small-files")
-        return smallFiles(protocol, number > 0 ? number : 1000);
+        return smallFiles(protocol, number > 0 ? number : 1000, argc > 4 ? argv[4] : "");
     if (mode == "large-file")
         return largeFile(protocol, number > 0 ? number : 1024);
     if (mode == "idle-fleet")
         return idleFleet(50, number > 0 ? number : 60);
     std::fprintf(
         stderr,
-        "usage: fleet_bench small-files|large-file [ftp|sftp] [N] | idle-fleet - [seconds]\n");
+        "usage: fleet_bench small-files [ftp|sftp] [count] [folder] | large-file [ftp|sftp] [MiB] | idle-fleet - [seconds]\n");
     return 2;
 }
