@@ -88,7 +88,9 @@ RemoteService::ProgressCallback SyncEngine::progressReporter(const Uuid& rowId,
         partials.updateProgress(key, received);
         const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
         const auto last = shared->lastPost.load();
-        if (received < expected &&
+        // The last sample always goes through; a total the server did not give is never reached.
+        const bool finished = expected > 0 && received >= expected;
+        if (!finished &&
             now - last < std::chrono::steady_clock::duration(progressPostInterval).count())
             return;
         shared->lastPost = now;
