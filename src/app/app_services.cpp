@@ -38,6 +38,7 @@ void AppServices::shutdown() {
     logService_.flush();
     historyService_.flush();
     manager_->partialTracker().flush();
+    settingsStore_.flush();
 }
 
 }  // namespace tarnel

@@ -55,11 +55,13 @@ void QtSettingsStore::setValue(const std::string& key, const SettingValue& value
         },
         value);
     settings_.setValue(q(key), v);
-    settings_.sync();
 }
 
 void QtSettingsStore::remove(const std::string& key) {
     settings_.remove(q(key));
+}
+
+void QtSettingsStore::flush() {
     settings_.sync();
 }
 
