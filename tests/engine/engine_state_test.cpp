@@ -151,35 +151,6 @@ TEST_F(EngineStateTest, TooLittleFreeSpaceFailsEvenWithTheWarningOff) {
     EXPECT_FALSE(makeEngine()->checkLocalFolder().has_value());
 }
 
-TEST_F(EngineStateTest, FailedListingsCountUpToTheErrorLimitAndRecover) {
-    settings.setNotificationsEnabled(true);
-    settings.setNotifyErrorsAfterAttempts(3);
-    server->failListingWith = FTPError::curlExitCode(7, "Failed to connect");
-    auto engine = makeEngine();
-    engine->start();
-    loop.advance(30s);
-    EXPECT_EQ(engine->statusText()(), "Retrying (1/3)...");
-    EXPECT_EQ(engine->connectionState()(), ConnectionState::error);
-    loop.advance(30s);
-    EXPECT_EQ(engine->statusText()(), "Retrying (2/3)...");
-    EXPECT_TRUE(notifier.posted.empty());
-    loop.advance(30s);
-    EXPECT_EQ(engine->statusText()(), "Error");
-    EXPECT_TRUE(hasLogLine("ERR [Test] Sync failed (3/3): Could not connect to server. Check the "
-                           "host, port, and that the server is running."));
-    ASSERT_EQ(notifier.posted.size(), 1u);
-    EXPECT_EQ(notifier.posted[0].identifier, "error-Test");
-    loop.advance(30s);
-    EXPECT_TRUE(hasLogLine("ERR [Test] Sync failed (4/3): Could not connect"));
-
-    server->failListingWith.reset();
-    loop.advance(30s);
-    EXPECT_EQ(engine->statusText()(), "Connected");
-    server->failListingWith = FTPError::curlExitCode(7, "Failed to connect");
-    loop.advance(30s);
-    EXPECT_EQ(engine->statusText()(), "Retrying (1/3)...");  // the count started over
-}
-
 TEST_F(EngineStateTest, FilesSettleOverPollsAndFilteredOnesAreNeverTracked) {
     config.requiredStableChecks = 2;
     config.minFileSize = 10;

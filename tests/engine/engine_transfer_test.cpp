@@ -106,11 +106,7 @@ TEST_P(EngineTransferTest, AGrowingFileIsFetchedOnceSettledIntoItsDatedRenamedPl
 INSTANTIATE_TEST_SUITE_P(Protocols, EngineTransferTest,
                          ::testing::Values(ServerProtocol::ftp, ServerProtocol::ftps,
                                            ServerProtocol::sftp),
-                         [](const auto& info) {
-                             return std::string(info.param == ServerProtocol::ftp    ? "FTP"
-                                                : info.param == ServerProtocol::ftps ? "FTPS"
-                                                                                     : "SFTP");
-                         });
+                         [](const auto& info) { return std::string(serverProtocolName(info.param)); });
 
 struct EngineTransferFtpTest : EngineTransferTest {};
 

@@ -102,9 +102,7 @@ TEST_P(FolderWatchTest, NewTopFoldersJoinTheWatchAndEmptiedFoldersGoBottomUp) {
 // SFTP removes folders by a quoted command of its own; FTP by RMD.
 INSTANTIATE_TEST_SUITE_P(Servers, FolderWatchTest,
                          ::testing::Values(ServerProtocol::ftp, ServerProtocol::sftp),
-                         [](const auto& info) {
-                             return info.param == ServerProtocol::ftp ? "ftp" : "sftp";
-                         });
+                         [](const auto& info) { return std::string(serverProtocolName(info.param)); });
 
 }  // namespace
 }  // namespace tarnel::testing

@@ -124,22 +124,10 @@ TEST_P(ServerTest, ComesBackOnTheSamePortAfterAnOutage) {
     EXPECT_EQ(curl(server, {url(server, "")}).exitCode, 0);
 }
 
-std::string protocolTestName(const ::testing::TestParamInfo<ServerProtocol>& info) {
-    switch (info.param) {
-        case ServerProtocol::ftp:
-            return "ftp";
-        case ServerProtocol::ftps:
-            return "ftps";
-        case ServerProtocol::sftp:
-            return "sftp";
-    }
-    return "unknown";
-}
-
 INSTANTIATE_TEST_SUITE_P(Protocols, ServerTest,
                          ::testing::Values(ServerProtocol::ftp, ServerProtocol::ftps,
                                            ServerProtocol::sftp),
-                         protocolTestName);
+                         [](const auto& info) { return std::string(serverProtocolName(info.param)); });
 
 bool accepts(int port) {
     const int fd = ::socket(AF_INET, SOCK_STREAM, 0);

@@ -30,18 +30,6 @@ constexpr auto startTimeout = 15s;
 constexpr auto stopGrace = 2s;
 constexpr auto pollStep = 5ms;
 
-const char* protocolArgument(ServerProtocol protocol) {
-    switch (protocol) {
-        case ServerProtocol::ftp:
-            return "ftp";
-        case ServerProtocol::ftps:
-            return "ftps";
-        case ServerProtocol::sftp:
-            return "sftp";
-    }
-    return "ftp";
-}
-
 fs::path serverScript() {
     const char* sourceDir = std::getenv("TARNEL_SOURCE_DIR");
     fs::path root = sourceDir && *sourceDir ? fs::path(sourceDir) : fs::path(TARNEL_SOURCE_DIR);
@@ -113,6 +101,19 @@ void setOrErase(nlohmann::json& faults, const char* key, std::optional<std::int6
 
 }  // namespace
 
+const char* serverProtocolName(ServerProtocol protocol) {
+    switch (protocol) {
+        case ServerProtocol::ftp:
+            return "ftp";
+        case ServerProtocol::ftps:
+            return "ftps";
+        case ServerProtocol::sftp:
+            return "sftp";
+    }
+    return "ftp";
+}
+
+
 TestServer::TestServer(ServerOptions options) : options(std::move(options)) {
     fs::create_directories(this->options.root);
     stateDir = makeStateDir();
@@ -182,7 +183,7 @@ void TestServer::start() {
     fs::remove(portFile);
 
     std::vector<std::string> args = {python(),       serverScript().string(),
-                                     "--protocol",   protocolArgument(options.protocol),
+                                     "--protocol",   serverProtocolName(options.protocol),
                                      "--root",       options.root.string(),
                                      "--state-dir",  stateDir.string(),
                                      "--user",       options.user,
@@ -234,7 +235,7 @@ void TestServer::start() {
             } else {
                 stop();
             }
-            throw std::runtime_error(std::string("test ") + protocolArgument(options.protocol) +
+            throw std::runtime_error(std::string("test ") + serverProtocolName(options.protocol) +
                                      " server did not start" + (late ? " in time" : "") + ": " +
                                      readFile(errorFile));
         }

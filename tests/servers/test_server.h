@@ -13,6 +13,9 @@ namespace tarnel::testing {
 
 enum class ServerProtocol { ftp, ftps, sftp };
 
+// "ftp", "ftps" or "sftp": the server script's argument, and a name for parameterised tests.
+const char* serverProtocolName(ServerProtocol protocol);
+
 struct ServerOptions {
     ServerProtocol protocol = ServerProtocol::ftp;
     std::filesystem::path root;  // served folder; created if missing
