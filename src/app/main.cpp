@@ -84,6 +84,11 @@ int main(int argc, char** argv) {
     services.manager().startAll();
     if (options.importFile)
         services.logService().log(importConnections(services.manager(), imported));
+    if (services.manager().engines().empty())
+        services.logService().log(
+            "No enabled connection with a host to watch; add one with 'tarnel --import FILE' "
+            "(see 'tarnel --help')",
+            LogLevel::warning);
 
     QSocketNotifier stopNotifier(signals, QSocketNotifier::Read);
     QObject::connect(&stopNotifier, &QSocketNotifier::activated, &app, [&] {
