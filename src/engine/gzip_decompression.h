@@ -1,23 +1,21 @@
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <optional>
-#include <span>
-#include <vector>
+#include <filesystem>
+#include <string>
 
 namespace tarnel {
 
-using Bytes = std::vector<std::uint8_t>;
+// A gzip or plain file that could not be opened, read or written, in words a user can act on.
+struct GzipFileError {
+    std::string description;
+};
 
-// The body of the first member of a gzip file. The header is read here; only the deflate body
-// goes to zlib. The CRC and length trailer are not checked, so a file cut short gives what its
-// body held up to the cut. Nothing for what is no gzip data or whose deflate data is corrupt.
-std::optional<Bytes> gunzip(std::span<const std::uint8_t> data);
-
-// Raw deflate (no header) inflated `chunkSize` bytes at a time. Input that runs out before the
-// stream's end gives what has been inflated so far; nothing when that is empty or the data is
-// corrupt.
-std::optional<Bytes> inflateRaw(std::span<const std::uint8_t> data, std::size_t chunkSize);
+// Inflates the body of the first member of the gzip file `source` into `target`, a fixed-size
+// block at a time, so that memory stays the same whatever the file inflates to. The header is
+// read here; only the deflate body goes to zlib. The CRC and length trailer are not checked, so
+// a file cut short gives what its body held up to the cut. Returns false, leaving no `target`
+// behind, for what is no gzip data, whose deflate data is corrupt, or that inflates to nothing.
+// Throws GzipFileError when `source` cannot be read or `target` written.
+bool gunzipFile(const std::filesystem::path& source, const std::filesystem::path& target);
 
 }  // namespace tarnel

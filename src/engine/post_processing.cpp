@@ -1,9 +1,5 @@
 // What runs after a file has been placed: decompression of a single file, and the post-action
 // of a whole batch.
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <memory>
 #include <system_error>
 
 #include "engine/gzip_decompression.h"
@@ -25,41 +21,6 @@ constexpr const char* filePlaceholder = "{filepath}";
 // The desktop's opener for a document, and its launcher for an application's ".desktop" entry.
 constexpr const char* documentOpener = "xdg-open";
 constexpr const char* applicationLauncher = "gio";
-
-// A local read or write that failed, in words a user can act on.
-struct FileError {
-    std::string description;
-};
-
-using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
-
-File openFile(const fs::path& path, const char* mode, const char* what) {
-    File file(std::fopen(path.c_str(), mode), &std::fclose);
-    if (!file)
-        throw FileError{std::string("Could not ") + what + " '" + path.string() +
-                        "': " + std::strerror(errno)};
-    return file;
-}
-
-Bytes readWholeFile(const fs::path& path) {
-    File file = openFile(path, "rb", "read");
-    Bytes data;
-    std::uint8_t block[65536];
-    std::size_t n = 0;
-    while ((n = std::fread(block, 1, sizeof block, file.get())) > 0)
-        data.insert(data.end(), block, block + n);
-    if (std::ferror(file.get()))
-        throw FileError{"Could not read '" + path.string() + "': " + std::strerror(errno)};
-    return data;
-}
-
-void writeWholeFile(const fs::path& path, const Bytes& data) {
-    File file = openFile(path, "wb", "write");
-    const bool written = std::fwrite(data.data(), 1, data.size(), file.get()) == data.size();
-    // A full disk may only show when the buffer is flushed.
-    if (!written || std::fflush(file.get()) != 0)
-        throw FileError{"Could not write '" + path.string() + "': " + std::strerror(errno)};
-}
 
 std::string lowercased(std::string text) {
     for (char& c : text)
@@ -109,20 +70,18 @@ void SyncEngine::decompressIfNeeded(const fs::path& file) {
     };
 
     try {
-        const auto plain = gunzip(readWholeFile(file));
-        if (!plain) {
+        const fs::path target = stringByDeletingPathExtension(file.string());
+        if (!gunzipFile(file, target)) {
             reportFailure("Failed to decompress " + name, "Gzip decompress failed: " + name);
             return;
         }
-        const fs::path target = stringByDeletingPathExtension(file.string());
-        writeWholeFile(target, *plain);
         std::error_code ec;
         fs::remove(file, ec);
         if (ec)
             log("Could not remove compressed source " + name + ": " + ec.message(),
                 LogLevel::warning);
         log("Decompressed: " + name + " \u2192 " + target.filename().string());
-    } catch (const FileError& e) {
+    } catch (const GzipFileError& e) {
         reportFailure("Decompress error: " + e.description, "Decompress error: " + e.description);
     }
 }
