@@ -1,5 +1,7 @@
 #include "connections/connection_config_json.h"
 
+#include <algorithm>
+
 #include "connections/config_json_values.h"
 #include "connections/list_text.h"
 
@@ -166,6 +168,19 @@ nlohmann::ordered_json encodeConnectionConfig(const ConnectionConfig& c) {
     };
 }
 
+namespace {
+// The counts within what the editor offers: a hand-written or old record may hold anything, and
+// a retry count in the thousands or a window of a million transfers would hurt.
+void clampCounts(ConnectionConfig& c) {
+    // Stability from 0: unattended set-ups that write files whole take them at first sight.
+    c.requiredStableChecks = std::clamp(c.requiredStableChecks, 0, 5);
+    c.maxConcurrentDownloads = std::clamp(c.maxConcurrentDownloads, 1, 8);
+    c.maxDepth = std::clamp(c.maxDepth, 1, 10);
+    c.maxRetries = std::clamp(c.maxRetries, 0, 10);
+    c.maxResumeAttempts = std::clamp(c.maxResumeAttempts, 0, 10);
+}
+}  // namespace
+
 ConnectionConfig decodeConnectionConfig(const nlohmann::ordered_json& json) {
     if (!json.is_object())
         throw ConfigDecodeError("expected an object, got " + std::string(json.type_name()));
@@ -218,6 +233,7 @@ ConnectionConfig decodeConnectionConfig(const nlohmann::ordered_json& json) {
     readOptional(json, "fallbackPath", c.fallbackPath);
     readOptional(json, "sectorHint", c.sectorHint);
     readOptional(json, "downloadUnspecifiedExtensions", c.downloadUnspecifiedExtensions);
+    clampCounts(c);
     return c;
 }
 
@@ -228,7 +244,7 @@ std::string encodeConnectionList(const std::vector<ConnectionConfig>& configs) {
     return list.dump();
 }
 
-std::vector<ConnectionConfig> decodeConnectionList(std::string_view jsonText) {
+DecodedConnectionList decodeReadableConnections(std::string_view jsonText) {
     Json list;
     try {
         list = Json::parse(jsonText);
@@ -242,16 +258,23 @@ std::vector<ConnectionConfig> decodeConnectionList(std::string_view jsonText) {
     if (!list.is_array())
         throw ConfigDecodeError("expected an array of connections, got " +
                                 std::string(list.type_name()));
-    std::vector<ConnectionConfig> configs;
-    configs.reserve(list.size());
+    DecodedConnectionList decoded;
+    decoded.connections.reserve(list.size());
     for (std::size_t i = 0; i < list.size(); ++i) {
         try {
-            configs.push_back(decodeConnectionConfig(list[i]));
+            decoded.connections.push_back(decodeConnectionConfig(list[i]));
         } catch (const ConfigDecodeError& e) {
-            throw ConfigDecodeError("record " + std::to_string(i) + ": " + e.what());
+            decoded.problems.push_back("record " + std::to_string(i) + ": " + e.what());
         }
     }
-    return configs;
+    return decoded;
+}
+
+std::vector<ConnectionConfig> decodeConnectionList(std::string_view jsonText) {
+    auto decoded = decodeReadableConnections(jsonText);
+    if (!decoded.problems.empty())
+        throw ConfigDecodeError(decoded.problems.front());
+    return std::move(decoded.connections);
 }
 
 }  // namespace tarnel

@@ -29,6 +29,14 @@ std::string encodeConnectionList(const std::vector<ConnectionConfig>& configs);
 // Throws ConfigDecodeError for text that is no JSON array or a record that fails.
 std::vector<ConnectionConfig> decodeConnectionList(std::string_view jsonText);
 
+// The records of a list that read, and for each one that does not, what ConfigDecodeError would
+// say of it. Throws ConfigDecodeError for text that is no JSON array.
+struct DecodedConnectionList {
+    std::vector<ConnectionConfig> connections;
+    std::vector<std::string> problems;
+};
+DecodedConnectionList decodeReadableConnections(std::string_view jsonText);
+
 nlohmann::ordered_json encodeRoutingRule(const RoutingRule& rule);
 // Reads the old form too: a lone `pattern` becomes an all-files or a custom-pattern rule.
 RoutingRule decodeRoutingRule(const nlohmann::ordered_json& json);

@@ -1,6 +1,7 @@
 #include "engine/destination.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <ctime>
 #include <system_error>
@@ -125,6 +126,26 @@ std::filesystem::path uniqueDestinationURL(const std::filesystem::path& url) {
         if (!isTaken(candidate))
             return candidate;
     }
+}
+
+std::filesystem::path partialFileURL(const std::filesystem::path& folder, const std::string& name,
+                                     const std::string& connectionId,
+                                     const std::string& trackingKey) {
+    if (trackingKey == name) return folder / (name + ".tarnel-partial");
+    // FNV-1a: the tag only needs to tell apart the files of one folder, and to stay the same
+    // from one run to the next, which std::hash does not promise.
+    std::uint64_t hash = 0xcbf29ce484222325ULL;
+    for (const std::string* part : {&connectionId, &trackingKey}) {
+        for (unsigned char c : *part) {
+            hash ^= c;
+            hash *= 0x100000001b3ULL;
+        }
+        hash ^= 0xff;  // no two splits of one text give one tag
+        hash *= 0x100000001b3ULL;
+    }
+    char tag[17];
+    std::snprintf(tag, sizeof tag, "%016llx", static_cast<unsigned long long>(hash));
+    return folder / (name + "." + std::string(tag, 12) + ".tarnel-partial");
 }
 
 std::optional<std::string> remotePathProblem(std::string_view path) {

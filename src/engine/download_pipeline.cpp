@@ -2,7 +2,9 @@
 // poll's batch.
 #include <atomic>
 #include <chrono>
+#include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <map>
 #include <system_error>
 
@@ -30,7 +32,7 @@ namespace tarnel {
 namespace fs = std::filesystem;
 
 namespace {
-constexpr const char* partialSuffix = ".tarnel-partial";
+constexpr std::chrono::duration<double> maximumRetryWait{100.0 * 365 * 24 * 3600};
 // The popover redraws a few times a second; more progress tasks than that only load the loop.
 constexpr auto progressPostInterval = std::chrono::milliseconds(100);
 
@@ -118,6 +120,26 @@ void SyncEngine::removeProgressRow(const Uuid& rowId) {
     activeDownloads_.set(std::move(rows));
 }
 
+namespace {
+// Holds a temporary file for one transfer, across engines, until the transfer ends.
+class WritingClaim {
+public:
+    WritingClaim(PartialDownloadTracker& partials, fs::path path)
+        : partials_(partials), path_(std::move(path)), held_(partials_.beginWriting(path_)) {}
+    ~WritingClaim() {
+        if (held_) partials_.endWriting(path_);
+    }
+    WritingClaim(const WritingClaim&) = delete;
+    WritingClaim& operator=(const WritingClaim&) = delete;
+    bool held() const { return held_; }
+
+private:
+    PartialDownloadTracker& partials_;
+    fs::path path_;
+    bool held_;
+};
+}  // namespace
+
 Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
     auto self = shared_from_this();
     const Clock& clock = services_.runtime.clock;
@@ -126,81 +148,95 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
     TransferResult result{file.name, file.name, file.size, false, config_.localPath,
                           std::nullopt, key, false, false};
 
-    std::string folder = !file.relativePath.empty() && config_.exploreSubdirectories
-                             ? destinationDirectory(config_, file.relativePath, file.firstSeen, clock)
-                             : baseLocalDestination(config_, file.firstSeen, clock);
+    // Whatever fails in here, of whatever kind, fails this file and nothing more.
+    std::optional<std::string> failure;
+    Uuid rowId;
+    try {
+        std::string folder =
+            !file.relativePath.empty() && config_.exploreSubdirectories
+                ? destinationDirectory(config_, file.relativePath, file.firstSeen, clock)
+                : baseLocalDestination(config_, file.firstSeen, clock);
 
-    // No remote name may place a file outside the folder it lands in.
-    auto problem = remotePathProblem(file.name);
-    if (!problem) problem = remotePathProblem(key);
-    if (problem) {
-        log("Refused " + key + ": " + *problem + "; left on the server", LogLevel::warning);
-        result.success = result.wasIgnored = true;
-        result.destinationPath = folder;
-        co_return result;
-    }
-
-    std::optional<RoutingRule> matchedRule;
-    if (!config_.routingRules.empty() || config_.fallbackBehavior != FallbackBehavior::useLocalFolder) {
-        RuleFolders ruleURLs;
-        std::optional<fs::path> fallbackURL;
-        if (auto manager = connectionsManager_.lock()) {
-            ruleURLs = manager->ruleDestinations(config_.id);
-            fallbackURL = manager->fallbackDestination(config_.id);
-        }
-        auto routing = route(file.name, folder, config_.routingRules, config_.fallbackBehavior,
-                             ruleURLs, fallbackURL);
-        if (!routing.destinationURL) {
-            log("Ignored by routing rule: " + key);
+        // No remote name may place a file outside the folder it lands in.
+        auto problem = remotePathProblem(file.name);
+        if (!problem) problem = remotePathProblem(key);
+        if (problem) {
+            log("Refused " + key + ": " + *problem + "; left on the server", LogLevel::warning);
             result.success = result.wasIgnored = true;
             result.destinationPath = folder;
             co_return result;
         }
-        folder = routing.destinationURL->string();
-        matchedRule = routing.matchedRule;
-    }
-    const fs::path tempPath = fs::path(folder) / (file.name + partialSuffix);
 
-    // Resume, when a temporary file of this very remote file is there and not yet whole.
-    bool resume = false;
-    std::int64_t offset = 0;
-    if (config_.maxResumeAttempts >= 1) {
-        if (auto record = partials.partial(key)) {
-            std::error_code ec;
-            if (!fs::exists(tempPath, ec)) {
-                partials.remove(key);
-            } else {
-                auto size = fs::file_size(tempPath, ec);
-                const std::int64_t local = ec ? 0 : static_cast<std::int64_t>(size);
-                if (local > 0 && local < file.size && record->expectedSize == file.size) {
-                    if (record->resumeAttempts >= config_.maxResumeAttempts) {
-                        log("Resume exhausted for " + key + " after " +
-                                std::to_string(record->resumeAttempts) + " attempts, starting fresh",
-                            LogLevel::warning);
-                        partials.discard(key);
-                    } else {
-                        partials.incrementResumeAttempts(key);
-                        log("Resuming: " + key + " from " + formatFileByteCount(local) +
-                            " (attempt " + std::to_string(record->resumeAttempts + 1) + "/" +
-                            std::to_string(config_.maxResumeAttempts) + ")");
-                        resume = true;
-                        offset = local;
-                    }
+        std::optional<RoutingRule> matchedRule;
+        if (!config_.routingRules.empty() ||
+            config_.fallbackBehavior != FallbackBehavior::useLocalFolder) {
+            RuleFolders ruleURLs;
+            std::optional<fs::path> fallbackURL;
+            if (auto manager = connectionsManager_.lock()) {
+                ruleURLs = manager->ruleDestinations(config_.id);
+                fallbackURL = manager->fallbackDestination(config_.id);
+            }
+            auto routing = route(file.name, folder, config_.routingRules,
+                                 config_.fallbackBehavior, ruleURLs, fallbackURL);
+            if (!routing.destinationURL) {
+                log("Ignored by routing rule: " + key);
+                result.success = result.wasIgnored = true;
+                result.destinationPath = folder;
+                co_return result;
+            }
+            folder = routing.destinationURL->string();
+            matchedRule = routing.matchedRule;
+        }
+        const fs::path tempPath = partialFileURL(folder, file.name, config_.id.toString(), key);
+
+        // An engine replaced by an edit may still be writing this file; it is left alone
+        // until that transfer has ended.
+        WritingClaim claim(partials, tempPath);
+        if (!claim.held()) {
+            log("Still being written by an earlier transfer, left for the next poll: " + key);
+            result.wasDeferred = true;
+            co_return result;
+        }
+
+        // Resume, when a temporary file of this very remote file is there and not yet whole.
+        bool resume = false;
+        std::int64_t offset = 0;
+        if (config_.maxResumeAttempts >= 1) {
+            if (auto record = partials.partial(key)) {
+                std::error_code ec;
+                if (record->localTempPath != tempPath.string() || !fs::exists(tempPath, ec)) {
+                    partials.remove(key);
                 } else {
-                    log("Remote file changed, discarding partial: " + key);
-                    partials.discard(key);
+                    auto size = fs::file_size(tempPath, ec);
+                    const std::int64_t local = ec ? 0 : static_cast<std::int64_t>(size);
+                    if (local > 0 && local < file.size && record->expectedSize == file.size) {
+                        if (record->resumeAttempts >= config_.maxResumeAttempts) {
+                            log("Resume exhausted for " + key + " after " +
+                                    std::to_string(record->resumeAttempts) +
+                                    " attempts, starting fresh",
+                                LogLevel::warning);
+                            partials.discard(key);
+                        } else {
+                            partials.incrementResumeAttempts(key);
+                            log("Resuming: " + key + " from " + formatFileByteCount(local) +
+                                " (attempt " + std::to_string(record->resumeAttempts + 1) + "/" +
+                                std::to_string(config_.maxResumeAttempts) + ")");
+                            resume = true;
+                            offset = local;
+                        }
+                    } else {
+                        log("Remote file changed, discarding partial: " + key);
+                        partials.discard(key);
+                    }
                 }
             }
         }
-    }
 
-    std::optional<std::string> failure;
-    Uuid rowId;
-    try {
         makeFolder(folder);
         if (!resume) {
             const auto now = clock.now();
-            partials.record({key, tempPath.string(), file.size, 0, config_.id.toString(), now, now, 0});
+            partials.record(
+                {key, tempPath.string(), file.size, 0, config_.id.toString(), now, now, 0});
         }
         DownloadProgress row;
         row.fileName = file.name;
@@ -216,7 +252,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
 
         const std::string url = remoteFileURL(file);
         makeFolder(folder);  // again: it may have gone while we waited
-        co_await ftpService_->downloadFile(file.name + partialSuffix, tempPath, offset,
+        co_await ftpService_->downloadFile(tempPath.filename().string(), tempPath, offset,
                                            progressReporter(rowId, key, file.size), url);
         removeProgressRow(rowId);
 
@@ -248,9 +284,11 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
             co_return result;
         }
 
+        // The record goes first: a crash between the two leaves a temporary file that the next
+        // start sweeps away, never a record of a file that has been placed.
+        partials.remove(key);
         fs::path placed = uniqueDestinationURL(fs::path(folder) / file.name);
         moveFile(tempPath, placed);
-        partials.remove(key);
         if (matchedRule) applyFinderTags(placed, matchedRule->tagColor, matchedRule->tagName);
         log(std::string("Verified") + (resume ? " (resumed)" : "") + ": " + key + " \u2014 " +
             formatFileByteCount(local));
@@ -266,6 +304,10 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
         }
         result.finalName = newName;
         result.size = local;
+        result.success = true;
+        // Booked now, before anything else can fail or the program end: a placed file is never
+        // fetched again and always has its history entry.
+        recordTransfer(result);
         if (config_.autoDecompress) decompressIfNeeded(placed);
 
         if (config_.deleteAfterDownload) {
@@ -276,12 +318,17 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
                 deleteError = e.errorDescription();
             }
             if (deleteError) {
-                // Counted as a success; the file stays on the server and comes back as new.
+                // Still counted as downloaded: a server that refuses deletes never fills the disk
+                // with copies.
                 undeletedFiles_.insert(key);
-                log("Downloaded OK but delete failed: " + key + " \u2014 " + *deleteError,
+                log("Downloaded OK but delete failed: " + key + " \u2014 " + *deleteError +
+                        "; the file stays on the server and is not fetched again unless its "
+                        "size changes",
                     LogLevel::warning);
             } else {
+                // Gone from the server: a new file of that name and size is a new file.
                 undeletedFiles_.erase(key);
+                downloadTracker_->forget(key, local);
                 log("Moved: " + key + " \u2192 " + folder, LogLevel::success);
                 if (config_.deleteEmptyRemoteFolders && !file.relativePath.empty())
                     co_await removeEmptyRemoteFolders(file.relativePath);
@@ -289,14 +336,19 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
         } else {
             log("Copied: " + key + " \u2192 " + folder, LogLevel::success);
         }
-        result.success = true;
         co_return result;
     } catch (const FTPError& e) {
         failure = e.errorDescription();
     } catch (const LocalFailure& e) {
         failure = e.text;
+    } catch (const std::exception& e) {
+        failure = e.what();
+    } catch (...) {
+        failure = "an unexpected error";
     }
 
+    // A failure after the file was placed (the remote delete's folder walk) leaves it placed.
+    if (result.success) co_return result;
     auto rows = activeDownloads_();
     std::erase_if(rows, [&](const DownloadProgress& r) {
         return r.fileName == file.name && r.connectionName == config_.name;
@@ -312,11 +364,27 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
     co_return result;
 }
 
+void SyncEngine::recordTransfer(const TransferResult& r) {
+    const auto now = services_.runtime.clock.now();
+    trackedFiles_.erase(r.trackingKey);
+    retryState_.erase(r.trackingKey);
+    downloadTracker_->markDownloaded(r.trackingKey, r.size);
+    totalTransferred_.set(totalTransferred_() + 1);
+    trackedFileCount_.set(static_cast<int>(trackedFiles_.size()));
+    services_.statsService.recordDownload(r.size);
+    lastDownloadedFile_.set(DownloadedFileInfo{r.finalName, r.size, now});
+    services_.historyService.add({Uuid::random(), now, r.name, r.finalName, r.size, config_.host,
+                                  config_.remotePath, r.destinationPath, config_.name,
+                                  TransferStatus::success, std::nullopt});
+}
+
 Task<void> SyncEngine::bookResults(const std::vector<TransferResult>& results) {
+    // Each placed file was booked when it was placed; the batch keeps its notification, sound
+    // and post-action.
     std::vector<std::string> names;
     std::int64_t total = 0;
-    const auto now = services_.runtime.clock.now();
     for (const auto& r : results) {
+        if (r.wasDeferred) continue;
         if (r.success) total += r.size;  // ignored files count too, as they always have
         if (r.wasIgnored) {
             trackedFiles_.erase(r.trackingKey);
@@ -324,17 +392,7 @@ Task<void> SyncEngine::bookResults(const std::vector<TransferResult>& results) {
             downloadTracker_->markDownloaded(r.trackingKey, r.size);
             trackedFileCount_.set(static_cast<int>(trackedFiles_.size()));
         } else if (r.success) {
-            trackedFiles_.erase(r.trackingKey);
-            retryState_.erase(r.trackingKey);
-            if (!config_.deleteAfterDownload) downloadTracker_->markDownloaded(r.trackingKey, r.size);
-            totalTransferred_.set(totalTransferred_() + 1);
-            trackedFileCount_.set(static_cast<int>(trackedFiles_.size()));
-            services_.statsService.recordDownload(r.size);
-            lastDownloadedFile_.set(DownloadedFileInfo{r.finalName, r.size, now});
             names.push_back(r.finalName);
-            services_.historyService.add({Uuid::random(), now, r.name, r.finalName, r.size,
-                                          config_.host, config_.remotePath, r.destinationPath,
-                                          config_.name, TransferStatus::success, std::nullopt});
         } else {
             handleFileFailure(r.trackingKey, r.size, r.errorMessage);
         }
@@ -364,12 +422,17 @@ void SyncEngine::handleFileFailure(const std::string& key, std::int64_t size,
         return;
     }
     // Waits grow by three: 5, 15, 45 s... They are told in the log; the next poll tries anyway.
+    // From attempt 21 on a wait no longer fits a time point: it is held at a century, which no
+    // poll outlives.
     const double wait = 5.0 * std::pow(3.0, a - 1);
+    const double heldWait = std::min(wait, maximumRetryWait.count());
     info.nextRetry = now + std::chrono::duration_cast<std::chrono::system_clock::duration>(
-                               std::chrono::duration<double>(wait));
+                               std::chrono::duration<double>(heldWait));
     retryState_[key] = info;
-    log("Will retry " + key + " in " + std::to_string(static_cast<long long>(wait)) +
-            "s (attempt " + std::to_string(a) + "/" + std::to_string(m) + ")",
+    char waitText[32];
+    std::snprintf(waitText, sizeof waitText, "%.0f", std::trunc(wait));
+    log("Will retry " + key + " in " + waitText + "s (attempt " + std::to_string(a) + "/" +
+            std::to_string(m) + ")",
         LogLevel::warning);
 }
 

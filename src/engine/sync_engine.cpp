@@ -32,7 +32,7 @@ bool isWritable(const std::string& path) {
 }  // namespace
 
 SyncEngine::SyncEngine(ConnectionConfig config, std::unique_ptr<RemoteService> ftpService,
-                       std::unique_ptr<DownloadTracker> downloadTracker,
+                       std::shared_ptr<DownloadTracker> downloadTracker,
                        const EngineServices& services)
     : config_(std::move(config)),
       ftpService_(std::move(ftpService)),
@@ -178,6 +178,19 @@ Task<void> SyncEngine::pollOnce() {
     connectionState_.set(ConnectionState::syncing);
     statusText_.set(localized("Syncing..."));
 
+    // A failure of any kind is a failed poll; the timer goes on.
+    std::optional<std::string> failure;
+    try {
+        co_await runPoll();
+    } catch (const std::exception& e) {
+        failure = e.what();
+    } catch (...) {
+        failure = "an unexpected error";
+    }
+    if (failure && syncInProgress_) pollFailure(*failure);
+}
+
+Task<void> SyncEngine::runPoll() {
     if (auto error = checkLocalFolder()) {
         folderFailure(*error);
         co_return;
@@ -267,9 +280,9 @@ std::vector<TrackedFile> SyncEngine::updateStability(const std::vector<FTPFileEn
     const auto now = services_.runtime.clock.now();
     for (const auto& e : entries) {
         const std::string key = trackingKey(e.name, e.relativePath);
-        // With delete after download the set is not asked: a file still there after its delete
-        // is to be fetched again.
-        if (!config_.deleteAfterDownload && downloadTracker_->isDownloaded(key, e.size)) continue;
+        // A file whose remote delete failed stays in the set: not fetched again unless its size
+        // changes.
+        if (downloadTracker_->isDownloaded(key, e.size)) continue;
         if (auto retry = retryState_.find(key); retry != retryState_.end() && now < retry->second.nextRetry)
             continue;
         if (auto it = trackedFiles_.find(key); it != trackedFiles_.end()) {

@@ -48,8 +48,10 @@ class SyncEngine : public std::enable_shared_from_this<SyncEngine> {
 public:
     static constexpr int failureThreshold = 3;  // printed in the failed-poll line, nothing more
 
+    // The download tracker is shared with an engine this one replaces, whose transfers may
+    // still be booking files.
     SyncEngine(ConnectionConfig config, std::unique_ptr<RemoteService> ftpService,
-               std::unique_ptr<DownloadTracker> downloadTracker, const EngineServices& services);
+               std::shared_ptr<DownloadTracker> downloadTracker, const EngineServices& services);
     ~SyncEngine();
 
     SyncEngine(const SyncEngine&) = delete;
@@ -102,7 +104,12 @@ private:
 
     bool passesListingFilters(const FTPFileEntry& entry) const;
     Task<std::vector<TransferResult>> downloadStableFiles(std::vector<TrackedFile> stable);
+    // A placed file's records: downloaded set, counters, history. Written as soon as it is placed.
+    void recordTransfer(const TransferResult& result);
+    // The batch's tail: failures and ignored files, then the notification, sound and post-action.
     Task<void> bookResults(const std::vector<TransferResult>& results);
+    // The poll cycle proper; pollOnce turns anything it throws into a failed poll.
+    Task<void> runPoll();
     void handleFileFailure(const std::string& key, std::int64_t size,
                            const std::optional<std::string>& message);
     RemoteService::ProgressCallback progressReporter(const Uuid& rowId, const std::string& key,
@@ -126,7 +133,7 @@ private:
 
     ConnectionConfig config_;
     std::unique_ptr<RemoteService> ftpService_;
-    std::unique_ptr<DownloadTracker> downloadTracker_;
+    std::shared_ptr<DownloadTracker> downloadTracker_;
     EngineServices services_;
     std::weak_ptr<FleetLink> connectionsManager_;
 

@@ -17,6 +17,9 @@ struct TransferResult {
     std::string trackingKey;
     bool wasResumed = false;
     bool wasIgnored = false;
+    // Another transfer, of an engine this one replaced, still writes the temporary file: the
+    // file is neither placed nor failed, and the next poll takes it up again.
+    bool wasDeferred = false;
 };
 
 }  // namespace tarnel

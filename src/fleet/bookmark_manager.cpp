@@ -75,10 +75,18 @@ std::optional<fs::path> BookmarkManager::restore(const std::string& key, bool lo
     if (!data)
         return std::nullopt;
     const fs::path url(*data);
-    if (auto problem = unreachable(url)) {
+    if (!url.is_absolute()) {
         if (loud)
-            report_("[BookmarkManager] Failed to restore bookmark: " + *data + ": " + *problem);
+            report_("[BookmarkManager] Failed to restore bookmark: " + *data +
+                    ": not an absolute path");
         store_.remove(key);
+        return std::nullopt;
+    }
+    if (auto problem = unreachable(url)) {
+        // A disk not mounted yet or a share not up: the grant stays, to be used once it is back.
+        if (loud)
+            report_("[BookmarkManager] Folder missing, its bookmark is kept until it is back: " +
+                    *data + ": " + *problem);
         return std::nullopt;
     }
     // A path never goes stale, so there is nothing to write back before access starts.
@@ -117,7 +125,7 @@ FolderGrants BookmarkManager::restoreAllRules(
     for (const auto& c : connections)
         for (const auto& rule : c.routingRules)
             if (rule.destinationPath)
-                if (auto url = restoreRuleBookmark(rule.id))
+                if (auto url = restore(ruleBookmarkKey(rule.id), true))
                     grants[rule.id] = *url;
     return grants;
 }
@@ -127,7 +135,7 @@ FolderGrants BookmarkManager::restoreAllFallbacks(
     FolderGrants grants;
     for (const auto& c : connections)
         if (c.fallbackBehavior == FallbackBehavior::useSpecificFolder && !c.fallbackPath.empty())
-            if (auto url = restoreFallbackBookmark(c.id))
+            if (auto url = restore(fallbackBookmarkKey(c.id), true))
                 grants[c.id] = *url;
     return grants;
 }

@@ -36,15 +36,15 @@ public:
     void saveRuleBookmark(const std::filesystem::path& url, const Uuid& ruleId) const;
     void saveFallbackBookmark(const std::filesystem::path& url, const Uuid& connectionId) const;
 
-    // The stored folder, in access, or nothing. A bookmark that no longer resolves is dropped
-    // for good: the user must choose the folder again.
+    // The stored folder, in access, or nothing. A folder that is missing keeps its bookmark, for
+    // a disk or share that comes back; one that can never resolve is dropped for good.
     std::optional<std::filesystem::path> restoreBookmark(const Uuid& connectionId) const;
     std::optional<std::filesystem::path> restoreRuleBookmark(const Uuid& ruleId) const;
     std::optional<std::filesystem::path> restoreFallbackBookmark(const Uuid& connectionId) const;
 
     // The grants of every connection with a local folder; of every rule with a folder, enabled
     // or not, so the grant is there when it is enabled again; of every connection that sends
-    // other files to a folder of their own.
+    // other files to a folder of their own. Each folder that is missing is reported.
     FolderGrants restoreAll(const std::vector<ConnectionConfig>& connections) const;
     FolderGrants restoreAllRules(const std::vector<ConnectionConfig>& connections) const;
     FolderGrants restoreAllFallbacks(const std::vector<ConnectionConfig>& connections) const;
@@ -63,7 +63,7 @@ public:
 private:
     void save(const std::string& key, const std::filesystem::path& url,
               const std::function<std::string(const std::string&)>& failureLine) const;
-    // `loud`: the local-folder use reports resolution and access faults; the others are silent.
+    // `loud`: reports resolution and access faults (start-up, and the local folder always).
     std::optional<std::filesystem::path> restore(const std::string& key, bool loud) const;
 
     SettingsStore& store_;

@@ -37,7 +37,10 @@ void ConnectionsManager::updateConnection(const ConnectionConfig& config) {
         engine->second->stop();
         engines_.erase(engine);
     }
-    if (canRun(config)) createEngine(config, false);
+    if (canRun(config))
+        createEngine(config, false);
+    else
+        recomputeAggregates();  // no engine of its own will
 }
 
 void ConnectionsManager::removeConnection(const Uuid& id) {
@@ -57,6 +60,7 @@ void ConnectionsManager::removeConnection(const Uuid& id) {
             activeRuleBookmarks_.erase(rule.id);
             store.remove(BookmarkManager::ruleBookmarkKey(rule.id));
         }
+    downloadTrackers_.erase(id);
     auto list = connections_();
     std::erase_if(list, [&](auto& c) { return c.id == id; });
     connections_.set(std::move(list));

@@ -4,6 +4,7 @@
 #include "engine/ftp_remote_service.h"
 #include "platform/runtime.h"
 #include "records/app_settings.h"
+#include "records/log_service.h"
 #include "records/download_tracker.h"
 #include "records/partial_download_tracker.h"
 #include "transfer/curl_transfer_client.h"
@@ -63,13 +64,29 @@ std::unique_ptr<RemoteService> ConnectionsManager::makeCurlRemote(
 }
 
 void ConnectionsManager::loadConnections() {
-    auto stored = services_.settingsStore.stringValue(storageKey);
+    auto& store = services_.settingsStore;
+    auto stored = store.stringValue(storageKey);
     if (!stored) return;
+    std::vector<std::string> problems;
     try {
-        connections_.set(decodeConnectionList(*stored));
-    } catch (const ConfigDecodeError&) {
-        // An unreadable list looks like an empty one; its bytes stay until the next save.
-        return;
+        auto decoded = decodeReadableConnections(*stored);
+        connections_.set(std::move(decoded.connections));
+        problems = std::move(decoded.problems);
+    } catch (const ConfigDecodeError& e) {
+        problems = {e.what()};
+    }
+    if (!problems.empty()) {
+        // The list as it was is kept where no save reaches it, before anything can save over it;
+        // an earlier backup is never replaced.
+        std::string backupKey = std::string(storageKey) + "_backup";
+        for (int n = 2; store.contains(backupKey) && store.stringValue(backupKey) != stored; ++n)
+            backupKey = std::string(storageKey) + "_backup_" + std::to_string(n);
+        store.setValue(backupKey, *stored);
+        for (const auto& problem : problems)
+            services_.logService.log("Could not read a stored connection (" + problem +
+                                         "); the list as it was is kept under \"" + backupKey +
+                                         "\" in the settings file",
+                                     LogLevel::error);
     }
     // Written back at once, so that defaults for keys a record lacked are stored in full.
     saveConnections();
@@ -80,8 +97,12 @@ void ConnectionsManager::saveConnections() {
 }
 
 void ConnectionsManager::createEngine(const ConnectionConfig& config, bool startPaused) {
-    auto tracker = std::make_unique<DownloadTracker>(services_.settingsStore, config.id.toString());
-    auto engine = std::make_shared<SyncEngine>(config, makeRemote_(config), std::move(tracker),
+    // One tracker per connection for the life of the fleet: an engine replaced by an edit books
+    // its last transfers where the new one looks.
+    auto& tracker = downloadTrackers_[config.id];
+    if (!tracker)
+        tracker = std::make_shared<DownloadTracker>(services_.settingsStore, config.id.toString());
+    auto engine = std::make_shared<SyncEngine>(config, makeRemote_(config), tracker,
                                                engineServices_);
     engine->setConnectionsManager(std::weak_ptr<FleetLink>(weak_from_this()));
     engines_[config.id] = engine;
@@ -138,6 +159,8 @@ RuleFolders ConnectionsManager::ruleDestinations(const Uuid& connectionId) const
         if (!rule.isEnabled || !rule.destinationPath) continue;
         if (auto granted = activeRuleBookmarks_.find(rule.id); granted != activeRuleBookmarks_.end())
             out[rule.id] = granted->second;
+        else if (auto back = bookmarks_.restoreRuleBookmark(rule.id))  // missing at start-up
+            out[rule.id] = *back;
         else if (!rule.destinationPath->starts_with('/') && local != activeBookmarks_.end())
             out[rule.id] = local->second / *rule.destinationPath;
     }
@@ -149,7 +172,7 @@ std::optional<std::filesystem::path> ConnectionsManager::fallbackDestination(
     if (auto granted = activeFallbackBookmarks_.find(connectionId);
         granted != activeFallbackBookmarks_.end())
         return granted->second;
-    return std::nullopt;
+    return bookmarks_.restoreFallbackBookmark(connectionId);  // missing at start-up, maybe back
 }
 
 void ConnectionsManager::startAll() {

@@ -164,6 +164,7 @@ private:
     Observable<std::string> networkType_{"Unknown"};
 
     std::unordered_map<Uuid, std::shared_ptr<SyncEngine>> engines_;
+    std::unordered_map<Uuid, std::shared_ptr<DownloadTracker>> downloadTrackers_;
     std::vector<Subscription> cancellables_;
 
     BookmarkManager bookmarks_;

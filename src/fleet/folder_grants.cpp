@@ -14,12 +14,18 @@ void ConnectionsManager::restoreFolderGrants() {
             LogLevel::info);
     activeRuleBookmarks_ = bookmarks_.restoreAllRules(list);
     activeFallbackBookmarks_ = bookmarks_.restoreAllFallbacks(list);
-    for (const auto& c : list)
-        if (!c.localPath.empty() && !activeBookmarks_.contains(c.id))
+    for (const auto& c : list) {
+        if (c.localPath.empty() || activeBookmarks_.contains(c.id)) continue;
+        if (bookmarks_.hasBookmark(c.id))
+            services_.logService.log("[" + c.name + "] Local folder missing: " + c.localPath +
+                                         " \u2014 its bookmark is kept until it is back",
+                                     LogLevel::warning);
+        else
             services_.logService.log("[" + c.name +
                                          "] Folder bookmark missing or invalid \u2014 user must "
                                          "re-select the local folder in Settings.",
                                      LogLevel::warning);
+    }
 }
 
 namespace {

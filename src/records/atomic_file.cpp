@@ -1,5 +1,10 @@
 #include "records/atomic_file.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <fstream>
 #include <iterator>
 #include <system_error>
@@ -7,23 +12,31 @@
 namespace tarnel {
 
 bool replaceFileAtomically(const std::filesystem::path& file, std::string_view contents) {
+    namespace fs = std::filesystem;
     std::error_code ec;
-    std::filesystem::create_directories(file.parent_path(), ec);
+    fs::create_directories(file.parent_path(), ec);
+    // The stores hold what is the user's alone: their folder too, also one an older version made.
+    fs::permissions(file.parent_path(), fs::perms::owner_all, fs::perm_options::replace, ec);
     auto temporary = file;
     temporary += ".tmp";
-    {
-        std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-        out.write(contents.data(), static_cast<std::streamsize>(contents.size()));
-        out.close();
-        if (!out) {
-            std::filesystem::remove(temporary, ec);
-            return false;
-        }
+    const int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    if (fd < 0)
+        return false;
+    bool written = ::fchmod(fd, 0600) == 0;  // a leftover temporary file keeps its old mode
+    for (std::size_t done = 0; written && done < contents.size();) {
+        const auto n = ::write(fd, contents.data() + done, contents.size() - done);
+        if (n < 0 && errno == EINTR)
+            continue;
+        written = n > 0;
+        if (written)
+            done += static_cast<std::size_t>(n);
     }
-    std::filesystem::rename(temporary, file, ec);
-    if (ec) {
+    written = ::close(fd) == 0 && written;
+    if (written)
+        fs::rename(temporary, file, ec);
+    if (!written || ec) {
         std::error_code ignored;
-        std::filesystem::remove(temporary, ignored);
+        fs::remove(temporary, ignored);
         return false;
     }
     return true;

@@ -16,6 +16,14 @@ std::string DownloadTracker::downloadedKey(const std::string& trackingKey, std::
 
 void DownloadTracker::markDownloaded(const std::string& trackingKey, std::int64_t size) {
     downloaded_.insert(downloadedKey(trackingKey, size));
+    store();
+}
+
+void DownloadTracker::forget(const std::string& trackingKey, std::int64_t size) {
+    if (downloaded_.erase(downloadedKey(trackingKey, size)) != 0) store();
+}
+
+void DownloadTracker::store() {
     store_.setValue(key_, std::vector<std::string>(downloaded_.begin(), downloaded_.end()));
 }
 

@@ -24,8 +24,12 @@ public:
 
     // Adds the entry and stores the whole set at once.
     void markDownloaded(const std::string& trackingKey, std::int64_t size);
+    // Drops the entry (a file deleted on the server) and stores the set if it changed.
+    void forget(const std::string& trackingKey, std::int64_t size);
 
 private:
+    void store();
+
     SettingsStore& store_;
     std::string key_;
     std::unordered_set<std::string> downloaded_;

@@ -77,31 +77,47 @@ void PartialDownloadTracker::flush() {
 void PartialDownloadTracker::saveLocked() {
     lastWrite_ = clock_.now();
     unsaved_ = false;
-    // One write in the queue at a time, which takes the records as they are when it runs: a
-    // batch of small files costs a few writes, not two for each file. A record that had not
-    // reached the disk when the program died leaves its temporary file as an orphan, swept at
-    // the next start; nothing is lost but the bytes of that attempt.
+    // One paced write in the queue at a time, which takes the records as they are when it runs.
     if (writeQueued_)
         return;
     writeQueued_ = true;
     queue_.async([this] {
-        std::string text;
-        {
-            std::lock_guard lock(mutex_);
-            writeQueued_ = false;
-            auto array = nlohmann::json::array();
-            for (const auto& [key, p] : partials_)
-                array.push_back(toJson(p));
-            text = array.dump();
-        }
-        replaceFileAtomically(file_, text);
+        std::lock_guard write(writeMutex_);
+        writeNow();
     });
 }
 
+void PartialDownloadTracker::writeNow() {
+    std::string text;
+    {
+        std::lock_guard lock(mutex_);
+        writeQueued_ = false;
+        auto array = nlohmann::json::array();
+        for (const auto& [key, p] : partials_)
+            array.push_back(toJson(p));
+        text = array.dump();
+    }
+    replaceFileAtomically(file_, text);
+}
+
+template <typename Change>
+void PartialDownloadTracker::changeAndWrite(Change change) {
+    std::lock_guard write(writeMutex_);
+    {
+        std::lock_guard lock(mutex_);
+        if (!change())
+            return;
+        lastWrite_ = clock_.now();
+        unsaved_ = false;
+    }
+    writeNow();
+}
+
 void PartialDownloadTracker::record(const PartialDownload& partial) {
-    std::lock_guard lock(mutex_);
-    partials_.insert_or_assign(partial.remotePath, partial);
-    saveLocked();
+    changeAndWrite([&] {
+        partials_.insert_or_assign(partial.remotePath, partial);
+        return true;
+    });
 }
 
 std::optional<PartialDownload> PartialDownloadTracker::partial(
@@ -126,31 +142,40 @@ void PartialDownloadTracker::updateProgress(const std::string& remotePath, std::
 }
 
 void PartialDownloadTracker::incrementResumeAttempts(const std::string& remotePath) {
-    std::lock_guard lock(mutex_);
-    auto it = partials_.find(remotePath);
-    if (it == partials_.end())
-        return;
-    it->second.resumeAttempts += 1;
-    it->second.lastResumedAt = clock_.now();
-    saveLocked();
+    changeAndWrite([&] {
+        auto it = partials_.find(remotePath);
+        if (it != partials_.end()) {
+            it->second.resumeAttempts += 1;
+            it->second.lastResumedAt = clock_.now();
+        }
+        return true;
+    });
 }
 
 void PartialDownloadTracker::remove(const std::string& remotePath) {
-    std::lock_guard lock(mutex_);
-    if (partials_.erase(remotePath) == 0)
-        return;
-    saveLocked();
+    changeAndWrite([&] { return partials_.erase(remotePath) != 0; });
 }
 
 void PartialDownloadTracker::discard(const std::string& remotePath) {
+    changeAndWrite([&] {
+        auto it = partials_.find(remotePath);
+        if (it == partials_.end())
+            return false;
+        std::error_code ignored;  // a file that stays is swept as an orphan at the next start
+        std::filesystem::remove(it->second.localTempPath, ignored);
+        partials_.erase(it);
+        return true;
+    });
+}
+
+bool PartialDownloadTracker::beginWriting(const std::filesystem::path& tempPath) {
     std::lock_guard lock(mutex_);
-    auto it = partials_.find(remotePath);
-    if (it == partials_.end())
-        return;
-    std::error_code ignored;  // a file that stays is swept as an orphan at the next start
-    std::filesystem::remove(it->second.localTempPath, ignored);
-    partials_.erase(it);
-    saveLocked();
+    return beingWritten_.insert(tempPath).second;
+}
+
+void PartialDownloadTracker::endWriting(const std::filesystem::path& tempPath) {
+    std::lock_guard lock(mutex_);
+    beingWritten_.erase(tempPath);
 }
 
 std::vector<std::filesystem::path> PartialDownloadTracker::orphanedFiles(

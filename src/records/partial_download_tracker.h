@@ -6,6 +6,7 @@
 #include <map>
 #include <mutex>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -30,10 +31,13 @@ struct PartialDownload {
 
 // The records of partial downloads of all engines, kept across restarts in "partials.json".
 // Records are keyed by tracking key alone: two connections with the same key share one record.
-// Every operation is callable from any thread and changes the records at once; the writer
-// thread replaces the file soon after, one write covering all changes made meanwhile.
-// updateProgress, which transfers call on every progress callback, writes at most once per
-// `progressWriteInterval`, so the file holds a recent byte count without a write per packet.
+// Every operation is callable from any thread. A record is on disk when record() returns, before
+// the download it describes writes a byte, and its removal when remove() or discard() returns,
+// so that a crash never leaves a temporary file that no record claims. Only the byte count is
+// paced: updateProgress, which transfers call on every progress callback, has the writer thread
+// write at most once per `progressWriteInterval`.
+// It also knows which temporary files are being written, by any engine of the fleet, so that no
+// two transfers ever write one.
 class PartialDownloadTracker {
 public:
     static constexpr std::chrono::milliseconds progressWriteInterval{1000};
@@ -56,6 +60,10 @@ public:
     // Drops the record and deletes its temporary file.
     void discard(const std::string& remotePath);
 
+    // Claims `tempPath` for one transfer; false while another transfer holds it.
+    bool beginWriting(const std::filesystem::path& tempPath);
+    void endWriting(const std::filesystem::path& tempPath);
+
     // The ".tarnel-partial" files directly in `directory` that no record claims, hidden ones
     // left out. The caller deletes them.
     std::vector<std::filesystem::path> orphanedFiles(const std::filesystem::path& directory) const;
@@ -68,11 +76,20 @@ public:
 private:
     // Called with mutex_ held: have the records written, soon, by the writer thread.
     void saveLocked();
+    // Writes the records as they are now. Called with writeMutex_ held and mutex_ not held.
+    void writeNow();
+    // Applies `change` to the records and writes them before returning.
+    template <typename Change>
+    void changeAndWrite(Change change);
 
     std::filesystem::path file_;
     const Clock& clock_;
+    // Taken before mutex_: a snapshot and its write are one step, so no write of older records
+    // lands after a newer one.
+    std::mutex writeMutex_;
     mutable std::mutex mutex_;
     std::map<std::string, PartialDownload> partials_;
+    std::set<std::filesystem::path> beingWritten_;
     TimePoint lastWrite_;
     bool unsaved_ = false;
     bool writeQueued_ = false;

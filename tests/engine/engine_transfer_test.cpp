@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <set>
 
 #include "engine/ftp_remote_service.h"
 #include "engine/md5.h"
@@ -170,7 +171,7 @@ TEST_F(EngineTransferFtpTest, ACutResumeIsResumedAgainAndAChangedFileIsFetchedWh
     EXPECT_EQ(filesBelow(dir / "inbox"), (std::vector<std::string>{"big.bin", "next.bin"}));
 }
 
-TEST_F(EngineTransferFtpTest, SizeMismatchEmptyFilesAndRefusedDeletes) {
+TEST_F(EngineTransferFtpTest, SizeMismatchAndEmptyFiles) {
     auto& server = startServer();
     config.requiredStableChecks = 0;
     config.maxRetries = 10;
@@ -189,16 +190,58 @@ TEST_F(EngineTransferFtpTest, SizeMismatchEmptyFilesAndRefusedDeletes) {
     loop.advance(10s);
     loop.advance(10s);
     EXPECT_EQ(readFile(dir / "inbox" / "grows.csv"), "1234567890abc");
+}
 
-    // A refused delete is still a success, and the file comes back as new.
+TEST_F(EngineTransferFtpTest, AServerThatRefusesDeletesHandsEachFileOverOnce) {
+    auto& server = startServer();
+    config.requiredStableChecks = 0;
+    config.exploreSubdirectories = true;
     server.refuseDeletes(true);
-    serve("keep.txt", "k");
+    serve("a.txt", "first");
+    serve("b.txt", "second");
+    serve("sub/c.txt", "third");
+    auto engine = makeServerEngine();
+    engine->start();
     loop.advance(10s);
-    EXPECT_TRUE(hasLogLine("WARN [Test] Downloaded OK but delete failed: keep.txt"));
-    EXPECT_TRUE(fs::exists(dir / "inbox" / "keep.txt"));
+    EXPECT_TRUE(hasLogLine("WARN [Test] Downloaded OK but delete failed: sub/c.txt"));
+    EXPECT_TRUE(hasLogLine("; the file stays on the server and is not fetched again unless its "
+                           "size changes"));
+    for (int poll = 0; poll < 10; ++poll) loop.advance(10s);
+    EXPECT_EQ(filesBelow(dir / "inbox"),
+              (std::vector<std::string>{"a.txt", "b.txt", "sub/c.txt"}));
+    EXPECT_EQ(filesBelow(ftp->root()), (std::vector<std::string>{"a.txt", "b.txt", "sub/c.txt"}));
+    EXPECT_EQ(history.entries()().size(), 3u);
+
+    // Only a new size makes it a new file; once deletes work again it is moved for good.
+    server.refuseDeletes(false);
+    serve("a.txt", "first, longer");
     loop.advance(10s);
-    EXPECT_TRUE(fs::exists(dir / "inbox" / "keep (1).txt"));
-    EXPECT_GE(countLogLines("New: keep.txt"), 2);
+    loop.advance(10s);
+    EXPECT_EQ(readFile(dir / "inbox" / "a (1).txt"), "first, longer");
+    EXPECT_EQ(filesBelow(ftp->root()), (std::vector<std::string>{"b.txt", "sub/c.txt"}));
+    EXPECT_EQ(filesBelow(dir / "inbox").size(), 4u);
+}
+
+// With flat placing, two files of one name from two folders download side by side, each through
+// a temporary file of its own.
+TEST_F(EngineTransferFtpTest, SameNamedFilesFromTwoFoldersBothArriveWhole) {
+    auto& server = startServer();
+    config.requiredStableChecks = 0;
+    config.exploreSubdirectories = true;
+    config.subdirectoryOrganization = SubdirectoryOrganization::flatAll;
+    const std::string first = pattern(400'000), second = std::string(300'000, 'b');
+    serve("a/x.jpg", first);
+    serve("b/x.jpg", second);
+    server.throttleDownloads(2'000'000);  // both transfers run at the same time
+    auto engine = makeServerEngine();
+    engine->start();
+    loop.advance(10s);
+
+    ASSERT_EQ(filesBelow(dir / "inbox"), (std::vector<std::string>{"x (1).jpg", "x.jpg"}));
+    std::set<std::string> arrived{readFile(dir / "inbox" / "x.jpg"),
+                                  readFile(dir / "inbox" / "x (1).jpg")};
+    EXPECT_EQ(arrived, (std::set<std::string>{first, second}));
+    EXPECT_TRUE(filesBelow(ftp->root()).empty());
 }
 
 TEST_F(EngineTransferFtpTest, AListingThatFailsThreeTimesShowsErrorAndRecovers) {

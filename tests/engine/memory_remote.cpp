@@ -31,8 +31,9 @@ Task<std::vector<FTPFileEntry>> MemoryRemote::collectFiles(std::string, int,
 Task<void> MemoryRemote::downloadFile(std::string name, std::filesystem::path to,
                                       std::int64_t resumeFrom, ProgressCallback onProgress,
                                       std::optional<std::string>) {
-    // The engine names the temporary file; the remote file is the name without its suffix.
+    // The engine names the temporary file: the remote file is the name without its suffix.
     if (name.ends_with(".tarnel-partial")) name.resize(name.size() - 15);
+    if (server_->beforeDownload) server_->beforeDownload(name);
     auto it = server_->files.find(name);
     if (it == server_->files.end()) throw FTPError::curlExitCode(78, "no such file");
     std::ofstream out(to, resumeFrom > 0 ? std::ios::app | std::ios::binary : std::ios::binary);

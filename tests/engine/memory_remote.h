@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -16,6 +17,7 @@ struct MemoryServer {
     std::map<std::string, std::string> files;
     Duration listingDelay{0};
     std::optional<FTPError> failListingWith;  // every listing fails while set
+    std::function<void(const std::string& name)> beforeDownload;  // may throw anything
     int listings = 0;
     int listingsInFlight = 0;
     int maxListingsInFlight = 0;

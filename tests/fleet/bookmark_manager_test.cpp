@@ -28,7 +28,7 @@ struct BookmarkTest : FleetFixture {
     }
 };
 
-TEST_F(BookmarkTest, RestoreAllTakesOnlyFoldersInUseAndDropsOnesThatVanished) {
+TEST_F(BookmarkTest, RestoreAllTakesOnlyFoldersInUseAndKeepsOnesThatAreMissing) {
     auto kept = connection("Kept", "h"), noFolder = connection("NoFolder", "h"),
          gone = connection("Gone", "h"), local = connection("Local", "h");
     kept.localPath = folder("kept");
@@ -50,11 +50,14 @@ TEST_F(BookmarkTest, RestoreAllTakesOnlyFoldersInUseAndDropsOnesThatVanished) {
 
     const std::vector<ConnectionConfig> list{kept, noFolder, gone, local};
     EXPECT_EQ(bookmarks.restoreAll(list), (FolderGrants{{kept.id, kept.localPath}}));
-    EXPECT_EQ(reports, std::vector<std::string>{"[BookmarkManager] Failed to restore bookmark: " +
-                                                gone.localPath + ": No such file or directory"});
-    EXPECT_FALSE(bookmarks.hasBookmark(gone.id));  // dropped for good: silent next time
+    EXPECT_EQ(reports, std::vector<std::string>{
+                           "[BookmarkManager] Folder missing, its bookmark is kept until it is "
+                           "back: " +
+                           gone.localPath + ": No such file or directory"});
+    EXPECT_TRUE(bookmarks.hasBookmark(gone.id));  // a disk not mounted yet
     EXPECT_TRUE(bookmarks.hasBookmark(noFolder.id));
-    bookmarks.restoreAll(list);
+    fs::create_directories(gone.localPath);
+    EXPECT_EQ(bookmarks.restoreAll(list).size(), 2u);
     EXPECT_EQ(reports.size(), 1u);
     EXPECT_EQ(bookmarks.restoreAllRules(list), (FolderGrants{{disabled.id, dir / "photos"}}));
     EXPECT_EQ(bookmarks.restoreAllFallbacks(list), (FolderGrants{{kept.id, dir / "other"}}));
@@ -94,12 +97,11 @@ TEST_F(BookmarkTest, GrantsSurviveARestartRouteFilesAndEndWithTheirConnection) {
         manager->stopAll();
     }
     fs::remove(gone.localPath);
-    fs::remove(dir / "lost");  // its files go to the main folder
+    fs::remove(dir / "lost");  // a share not up yet: its files go to the main folder meanwhile
     auto manager = makeManager();
     EXPECT_TRUE(hasLogLine("INFO Restored 1 folder bookmark(s)"));
-    EXPECT_TRUE(
-        hasLogLine("WARN [Gone] Folder bookmark missing or invalid \u2014 user must "
-                   "re-select the local folder in Settings."));
+    EXPECT_TRUE(hasLogLine("WARN [Gone] Local folder missing: " + gone.localPath +
+                           " \u2014 its bookmark is kept until it is back"));
     EXPECT_FALSE(hasLogLine("WARN [Shop]"));
 
     manager->startAll();
@@ -110,6 +112,12 @@ TEST_F(BookmarkTest, GrantsSurviveARestartRouteFilesAndEndWithTheirConnection) {
     EXPECT_TRUE(fs::exists(dir / "in" / "docs" / "b.pdf"));
     EXPECT_TRUE(fs::exists(dir / "in" / "c.txt"));
     EXPECT_TRUE(fs::exists(dir / "other" / "d.zip"));
+
+    // The share is back: its rule routes into it again, without a restart.
+    fs::create_directories(dir / "lost");
+    servers.at("shop")->files["e.txt"] = "back";
+    loop.advance(100s);
+    EXPECT_TRUE(fs::exists(dir / "lost" / "e.txt"));
 
     manager->removeConnection(shop.id);
     EXPECT_TRUE(manager->activeRuleBookmarks().empty());

@@ -84,28 +84,60 @@ TEST_F(ManagerTest, PauseAllWithNoEnginesHoldsUntilTheNextRecomputation) {
     EXPECT_FALSE(manager->hasActiveEngines()());
 }
 
-TEST_F(ManagerTest, AListThatLacksKeysIsWrittenBackInFullAndABadOneIsReplacedOnSave) {
-    // A record with only its required keys.
+TEST_F(ManagerTest, AListThatLacksKeysIsWrittenBackInFullWithItsCountsBounded) {
+    // A record with only its required keys, and counts no editor offers.
     settingsStore.setValue(ConnectionsManager::storageKey,
                            std::string(R"([{"id":"6F2D3C0A-1B2C-4D5E-8F90-A1B2C3D4E5F6","name":"Old",)"
                                        R"("enabled":true,"transferProtocol":"SFTP","host":"h","port":22,)"
                                        R"("username":"u","password":"p","remotePath":"/in","localPath":"",)"
                                        R"("pollInterval":30,"requiredStableChecks":2,"extensionFilter":"",)"
-                                       R"("extensionFilterExclude":false,"deleteAfterDownload":true}])"));
+                                       R"("extensionFilterExclude":false,"deleteAfterDownload":true,)"
+                                       R"("maxRetries":2000000,"maxConcurrentDownloads":-3}])"));
+    auto manager = makeManager();
+    ASSERT_EQ(manager->connections()().size(), 1u);
+    EXPECT_EQ(manager->connections()()[0].maxRetries, 10);
+    EXPECT_EQ(manager->connections()()[0].maxConcurrentDownloads, 1);
+    auto stored = settingsStore.stringValue(ConnectionsManager::storageKey);
+    EXPECT_NE(stored->find("\"maxResumeAttempts\":5"), std::string::npos);
+}
+
+TEST_F(ManagerTest, OneBadRecordCostsOnlyItselfAndTheListAsItWasIsKept) {
+    auto good = connection("Good", "good");
+    auto broken = nlohmann::json::parse(encodeConnectionList({good, connection("Bad", "bad")}));
+    broken[1].erase("port");
+    settingsStore.setValue(ConnectionsManager::storageKey, broken.dump());
+    settingsStore.setValue("tarnel_connections_v2_backup", std::string("an older backup"));
     {
         auto manager = makeManager();
         ASSERT_EQ(manager->connections()().size(), 1u);
-        EXPECT_EQ(manager->connections()()[0].maxConcurrentDownloads, 4);
+        EXPECT_EQ(manager->connections()()[0].name, "Good");
+        manager->saveConnections();
     }
-    auto stored = settingsStore.stringValue(ConnectionsManager::storageKey);
-    EXPECT_NE(stored->find("\"maxConcurrentDownloads\":4"), std::string::npos);
+    EXPECT_TRUE(hasLogLine("ERR Could not read a stored connection (record 1: key \"port\": "
+                           "missing); the list as it was is kept under "
+                           "\"tarnel_connections_v2_backup_2\" in the settings file"));
+    EXPECT_EQ(settingsStore.stringValue("tarnel_connections_v2_backup_2"), broken.dump());
+    EXPECT_EQ(settingsStore.stringValue("tarnel_connections_v2_backup"), "an older backup");
 
-    settingsStore.setValue(ConnectionsManager::storageKey, std::string("[{\"id\":1}]"));
+    // Text that is no list at all is kept the same way.
+    settingsStore.setValue(ConnectionsManager::storageKey, std::string("[{\"id\":1"));
     auto manager = makeManager();
     EXPECT_TRUE(manager->connections()().empty());
-    EXPECT_EQ(settingsStore.stringValue(ConnectionsManager::storageKey), "[{\"id\":1}]");
-    manager->saveConnections();
-    EXPECT_EQ(settingsStore.stringValue(ConnectionsManager::storageKey), "[]");
+    EXPECT_EQ(settingsStore.stringValue("tarnel_connections_v2_backup_3"), "[{\"id\":1");
+}
+
+TEST_F(ManagerTest, DisablingAConnectionByAnEditUpdatesTheFleetsSummary) {
+    auto a = connection("A", "a");
+    store({a});
+    auto manager = makeManager();
+    manager->startAll();
+    manager->pauseAll();
+    EXPECT_TRUE(manager->hasActiveEngines()());
+    a.enabled = false;
+    manager->updateConnection(a);
+    EXPECT_TRUE(manager->engines().empty());
+    EXPECT_FALSE(manager->hasActiveEngines()());
+    EXPECT_FALSE(manager->aggregatePaused()());
 }
 
 }  // namespace

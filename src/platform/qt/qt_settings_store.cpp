@@ -1,6 +1,11 @@
 #include "platform/qt/qt_settings_store.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QStringList>
+#include <system_error>
 
 namespace tarnel {
 
@@ -11,7 +16,19 @@ QString q(const std::string& s) {
 }  // namespace
 
 QtSettingsStore::QtSettingsStore(const std::filesystem::path& file)
-    : settings_(QString::fromStdString(file.string()), QSettings::IniFormat) {}
+    : settings_(QString::fromStdString(file.string()), QSettings::IniFormat) {
+    // The file holds passwords: readable by its owner alone, also when an older version made it
+    // for all. QSettings replaces it keeping the mode it finds, so it is set once, here.
+    namespace fs = std::filesystem;
+    std::error_code ec;
+    fs::create_directories(file.parent_path(), ec);
+    fs::permissions(file.parent_path(), fs::perms::owner_all, fs::perm_options::replace, ec);
+    const int fd = ::open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    if (fd >= 0) {
+        ::fchmod(fd, 0600);
+        ::close(fd);
+    }
+}
 
 std::optional<SettingValue> QtSettingsStore::value(const std::string& key) const {
     const QVariant v = settings_.value(q(key));
