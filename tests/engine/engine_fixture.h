@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
 #include <memory>
 
 #include "connections/connection_config.h"
@@ -23,6 +26,12 @@
 #include "recording_notifier.h"
 
 namespace tarnel::testing {
+
+// The whole content of a file; empty if it cannot be read.
+inline std::string readFile(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
 
 // Everything an engine or the manager is built from, on virtual time, with stores in a fresh
 // folder and a server in memory.

@@ -1,11 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <stdexcept>
+
 #include "engine_fixture.h"
 
 namespace tarnel::testing {
 namespace {
 
 using namespace std::chrono_literals;
+namespace fs = std::filesystem;
 
 struct EngineStateTest : EngineFixture {};
 
@@ -199,6 +203,59 @@ TEST_F(EngineStateTest, TwoFoldersWithOneNameGiveTwoKeysAndDownloadedFilesAreSki
     // Another size is another file.
     stable = engine->updateStability({{"a.txt", 11, false, "x/a.txt"}, {"a.txt", 10, false, "y/a.txt"}});
     EXPECT_EQ(stable.size(), 2u);
+}
+
+TEST_F(EngineStateTest, FailuresOfAnyKindFailOneFileOrOnePollAndTheEngineGoesOn) {
+    config.requiredStableChecks = 0;
+    config.maxRetries = 10;
+    server->files = {{"a.bin", "aaaa"}, {"b.bin", "bbbb"}};
+    int aFaults = 1, bFaults = 2;
+    server->beforeDownload = [&](const std::string& name) {
+        if (name == "a.bin" && aFaults-- > 0) throw std::bad_alloc();
+        if (name == "b.bin" && bFaults-- > 0) throw std::runtime_error("disk on fire");
+    };
+    // A destination that cannot be a folder: a file stands where it would be made.
+    fs::create_directories(dir / "inbox");
+    std::ofstream(dir / "inbox" / "2024");
+    config.organizeByDate = true;
+    auto engine = makeEngine();
+    engine->start();
+    loop.advance(30s);
+    EXPECT_TRUE(hasLogLine("ERR [Test] Failed: a.bin \u2014 Could not create the folder"));
+    EXPECT_TRUE(hasLogLine("WARN [Test] Will retry b.bin in 5s (attempt 1/10)"));
+
+    fs::remove(dir / "inbox" / "2024");
+    loop.advance(30s);
+    EXPECT_TRUE(hasLogLine("ERR [Test] Failed: a.bin \u2014 std::bad_alloc"));
+    EXPECT_TRUE(hasLogLine("ERR [Test] Failed: b.bin \u2014 disk on fire"));
+    EXPECT_EQ(engine->connectionState()(), ConnectionState::connected);
+
+    server->beforeListing = [] { throw std::length_error("listing too long"); };
+    loop.advance(30s);
+    EXPECT_TRUE(hasLogLine("ERR [Test] Sync failed (1/3): listing too long"));
+    EXPECT_EQ(engine->connectionState()(), ConnectionState::error);
+
+    server->beforeListing = nullptr;
+    loop.advance(30s);
+    loop.advance(30s);
+    EXPECT_TRUE(fs::exists(dir / "inbox" / "2024" / "03" / "07" / "a.bin"));
+    EXPECT_TRUE(fs::exists(dir / "inbox" / "2024" / "03" / "07" / "b.bin"));
+    EXPECT_EQ(engine->totalTransferred()(), 2);
+}
+
+TEST_F(EngineStateTest, RetryWaitsPastTheTwentiethAttemptAreToldWhole) {
+    config.requiredStableChecks = 0;
+    config.maxRetries = 50;  // beyond what a stored record may hold
+    server->files = {{"bad.bin", "x"}};
+    server->beforeDownload = [](const std::string&) { throw FTPError::curlExitCode(56, ""); };
+    auto engine = makeEngine();
+    engine->start();
+    for (int poll = 0; poll < 30; ++poll) loop.advance(30s);
+    EXPECT_TRUE(hasLogLine("[Test] Will retry bad.bin in 343151886824415s (attempt 30/50)"));
+    for (int poll = 30; poll < 45; ++poll) loop.advance(30s);
+    EXPECT_TRUE(hasLogLine("[Test] Will retry bad.bin in 4923854510918056"));  // attempt 45
+    EXPECT_TRUE(hasLogLine("(attempt 45/50)"));
+    EXPECT_FALSE(hasLogLine("in -"));
 }
 
 }  // namespace

@@ -44,11 +44,6 @@ struct EngineTransferTest : EngineFixture, ::testing::WithParamInterface<ServerP
         std::ofstream(file, std::ios::binary) << content;
     }
 
-    static std::string readFile(const fs::path& file) {
-        std::ifstream in(file, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
-    }
-
     // Every file below `root`, as relative paths.
     static std::vector<std::string> filesBelow(const fs::path& root) {
         std::vector<std::string> out;

@@ -11,6 +11,7 @@ Task<std::vector<FTPFileEntry>> MemoryRemote::listFiles() {
     if (server->listingDelay.count() > 0) co_await delay(loop_, server->listingDelay);
     --server->listingsInFlight;
     if (server->failListingWith) throw *server->failListingWith;
+    if (server->beforeListing) server->beforeListing();
     std::vector<FTPFileEntry> out;
     for (const auto& [name, content] : server->files)
         out.push_back({name, static_cast<std::int64_t>(content.size()), false, ""});

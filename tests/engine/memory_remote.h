@@ -17,7 +17,9 @@ struct MemoryServer {
     std::map<std::string, std::string> files;
     Duration listingDelay{0};
     std::optional<FTPError> failListingWith;  // every listing fails while set
-    std::function<void(const std::string& name)> beforeDownload;  // may throw anything
+    // Called before each listing and download; may throw anything.
+    std::function<void()> beforeListing;
+    std::function<void(const std::string& name)> beforeDownload;
     int listings = 0;
     int listingsInFlight = 0;
     int maxListingsInFlight = 0;

@@ -6,6 +6,10 @@
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <zlib.h>
 
 #include "engine/gzip_decompression.h"
 #include "engine_fixture.h"
@@ -15,11 +19,6 @@ namespace {
 
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
-
-std::string readFile(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 // Writes each case as NAME (compressed) and NAME.expected (what it must unpack to): from the
 // gzip tool, with a header built by hand where the tool cannot write the field.
@@ -214,6 +213,69 @@ TEST_F(PostProcessingTest, ApplicationsGetTheWholeBatchAndDocumentsAndZipsOpenOn
     auto second = runEngine();
     EXPECT_EQ(launched(1),
               (std::vector<std::vector<std::string>>{{"xdg-open", "/srv/report.pdf"}}));
+}
+
+// Zeros that inflate to 4 GiB, from a file of a few MB, unpacked by a child process whose memory
+// is capped far below that (address space, where the address sanitizer leaves it alone, and the
+// peak resident size in any case).
+TEST(GzipStreaming, FourGibibytesInflateInFixedMemory) {
+    constexpr std::uint64_t inflated = std::uint64_t{4} << 30;
+    constexpr long peakLimitKiB = 256 * 1024;
+    const fs::path dir = EngineFixture::makeTempDir();
+    const fs::path gz = dir / "zeros.gz", plain = dir / "zeros";
+    {
+        // After a full flush deflate forgets what came before, so every further MiB of zeros
+        // compresses to the same bytes: compressed once, written 4,096 times.
+        z_stream stream{};
+        ASSERT_EQ(deflateInit2(&stream, 9, Z_DEFLATED, -15, 9, Z_DEFAULT_STRATEGY), Z_OK);
+        std::vector<unsigned char> zeros(1 << 20), output(1 << 20);
+        const auto compress = [&](std::size_t size, int flush) {
+            stream.next_in = zeros.data();
+            stream.avail_in = static_cast<uInt>(size);
+            stream.next_out = output.data();
+            stream.avail_out = static_cast<uInt>(output.size());
+            deflate(&stream, flush);
+            return std::string(output.begin(), output.end() - stream.avail_out);
+        };
+        const std::string first = compress(zeros.size(), Z_FULL_FLUSH);
+        const std::string block = compress(zeros.size(), Z_FULL_FLUSH);
+        const std::string last = compress(0, Z_FINISH);
+        deflateEnd(&stream);
+        uLong crc = crc32(0, zeros.data(), static_cast<uInt>(zeros.size())), whole = crc;
+        for (int n = 1; n < 4096; ++n) whole = crc32_combine(whole, crc, zeros.size());
+        std::ofstream out(gz, std::ios::binary);
+        out << std::string("\x1f\x8b\x08\0\0\0\0\0\0\x03", 10) << first;
+        for (int n = 1; n < 4096; ++n) out << block;
+        const unsigned char trailer[8] = {
+            static_cast<unsigned char>(whole), static_cast<unsigned char>(whole >> 8),
+            static_cast<unsigned char>(whole >> 16), static_cast<unsigned char>(whole >> 24),
+            0, 0, 0, 0};  // the length modulo 2^32
+        out << last << std::string(reinterpret_cast<const char*>(trailer), 8);
+    }
+    ASSERT_LT(fs::file_size(gz), 10'000'000u);
+
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+#ifndef __SANITIZE_ADDRESS__
+        const rlimit cap{std::uint64_t{1} << 30, std::uint64_t{1} << 30};
+        ::setrlimit(RLIMIT_AS, &cap);
+#endif
+        bool ok = false;
+        try {
+            ok = gunzipFile(gz, plain);
+        } catch (...) {
+        }
+        rusage usage{};
+        ::getrusage(RUSAGE_SELF, &usage);
+        ::_exit(!ok ? 1 : usage.ru_maxrss > peakLimitKiB ? 2 : 0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "child status " << status;
+    std::error_code ec;
+    EXPECT_EQ(fs::file_size(plain, ec), inflated);
+    fs::remove_all(dir, ec);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 
 #include "platform/qt/qt_settings_store.h"
 
@@ -34,6 +35,34 @@ TEST(QtSettingsStore, TypedValuesSurviveReopening) {
     EXPECT_FALSE(store.contains("gone"));
     EXPECT_FALSE(store.boolValue("never_set").has_value());
     std::filesystem::remove_all(dir);
+}
+
+// The file holds passwords: its owner's alone, after every write, also when an older version
+// made it readable by all.
+TEST(QtSettingsStore, TheFileIsReadableByItsOwnerAlone) {
+    namespace fs = std::filesystem;
+    auto dir = fs::temp_directory_path() / ("tarnel-settings-mode-" + std::to_string(::getpid()));
+    fs::remove_all(dir);
+    const auto file = dir / "Tarnel" / "Tarnel.conf";
+    fs::create_directories(file.parent_path());
+    { std::ofstream(file) << "[General]\nold=1\n"; }
+    fs::permissions(file.parent_path(), fs::perms(0755));
+    fs::permissions(file, fs::perms(0644));
+    {
+        QtSettingsStore store(file);
+        store.setValue("tarnel_connections_v2", std::string("[]"));
+        store.flush();
+        EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
+        store.setValue("stats_total_files", std::int64_t{2});
+    }
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
+    EXPECT_EQ(fs::status(file.parent_path()).permissions(), fs::perms(0700));
+    EXPECT_EQ(QtSettingsStore(file).intValue("old"), 1);
+
+    fs::remove_all(dir);  // a first start: nothing there yet
+    QtSettingsStore(file).setValue("stats_total_files", std::int64_t{1});
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
+    fs::remove_all(dir);
 }
 
 }  // namespace

@@ -26,14 +26,22 @@ protected:
     std::filesystem::path file = dir / "Tarnel/partials.json";
 };
 
-TEST_F(PartialDownloadTrackerTest, RecordsSurviveARestart) {
+// Each change but the byte count is on disk when the call returns: a crash right after a
+// download starts leaves the record that resumes it, and none of a file already moved.
+TEST_F(PartialDownloadTrackerTest, RecordsAreOnDiskAtOnceAndSurviveARestart) {
     auto a = sample("a.zip");
+    const auto onDisk = [&](const std::string& key) {
+        return PartialDownloadTracker(file, &clock).partial(key);
+    };
     {
         PartialDownloadTracker tracker(file, &clock);
         tracker.record(a);
         tracker.record(sample("b.zip"));
+        EXPECT_TRUE(onDisk("b.zip"));
         tracker.incrementResumeAttempts("a.zip");
+        EXPECT_EQ(onDisk("a.zip")->resumeAttempts, 1);
         tracker.remove("b.zip");
+        EXPECT_FALSE(onDisk("b.zip"));
     }
     PartialDownloadTracker tracker(file, &clock);
     a.resumeAttempts = 1;
@@ -88,6 +96,18 @@ TEST_F(PartialDownloadTrackerTest, OrphansAndDiscard) {
     tracker.discard("a.zip");
     EXPECT_FALSE(std::filesystem::exists(dir / "a.zip.tarnel-partial"));
     EXPECT_FALSE(tracker.partial("a.zip"));
+}
+
+// They hold what is the user's alone, also where an older version left them open to all.
+TEST_F(PartialDownloadTrackerTest, TheStoreIsReadableByItsOwnerAlone) {
+    namespace fs = std::filesystem;
+    fs::create_directories(file.parent_path());
+    std::ofstream(file) << "[]";
+    fs::permissions(file.parent_path(), fs::perms(0755));
+    fs::permissions(file, fs::perms(0644));
+    PartialDownloadTracker(file, &clock).record(sample("a.zip"));
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
+    EXPECT_EQ(fs::status(file.parent_path()).permissions(), fs::perms(0700));
 }
 
 }  // namespace
