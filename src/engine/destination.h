@@ -34,7 +34,7 @@ std::filesystem::path uniqueDestinationURL(const std::filesystem::path& url);
 // file from a sub-folder. Two files of one name from two remote folders, which flat or routed
 // placing sends to one folder, never share one; the same file always gets the same one, so that
 // a restart finds it to resume. (Two connections that place one name into one folder take turns:
-// see PartialDownloadTracker::beginWriting.)
+// see PartialDownloadTracker::claimForWriting.)
 std::filesystem::path partialFileURL(const std::filesystem::path& folder, const std::string& name,
                                      const std::string& connectionId,
                                      const std::string& trackingKey);

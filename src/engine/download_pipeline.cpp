@@ -120,26 +120,6 @@ void SyncEngine::removeProgressRow(const Uuid& rowId) {
     activeDownloads_.set(std::move(rows));
 }
 
-namespace {
-// Holds a temporary file for one transfer, across engines, until the transfer ends.
-class WritingClaim {
-public:
-    WritingClaim(PartialDownloadTracker& partials, fs::path path)
-        : partials_(partials), path_(std::move(path)), held_(partials_.beginWriting(path_)) {}
-    ~WritingClaim() {
-        if (held_) partials_.endWriting(path_);
-    }
-    WritingClaim(const WritingClaim&) = delete;
-    WritingClaim& operator=(const WritingClaim&) = delete;
-    bool held() const { return held_; }
-
-private:
-    PartialDownloadTracker& partials_;
-    fs::path path_;
-    bool held_;
-};
-}  // namespace
-
 Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
     auto self = shared_from_this();
     const Clock& clock = services_.runtime.clock;
@@ -191,8 +171,8 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
 
         // An engine replaced by an edit may still be writing this file; it is left alone
         // until that transfer has ended.
-        WritingClaim claim(partials, tempPath);
-        if (!claim.held()) {
+        const auto claim = partials.claimForWriting(tempPath);
+        if (!claim) {
             log("Still being written by an earlier transfer, left for the next poll: " + key);
             result.wasDeferred = true;
             co_return result;

@@ -281,8 +281,11 @@ std::vector<TrackedFile> SyncEngine::updateStability(const std::vector<FTPFileEn
     for (const auto& e : entries) {
         const std::string key = trackingKey(e.name, e.relativePath);
         // A file whose remote delete failed stays in the set: not fetched again unless its size
-        // changes.
-        if (downloadTracker_->isDownloaded(key, e.size)) continue;
+        // changes. One that a replaced engine placed meanwhile is tracked here no longer.
+        if (downloadTracker_->isDownloaded(key, e.size)) {
+            trackedFiles_.erase(key);
+            continue;
+        }
         if (auto retry = retryState_.find(key); retry != retryState_.end() && now < retry->second.nextRetry)
             continue;
         if (auto it = trackedFiles_.find(key); it != trackedFiles_.end()) {

@@ -168,14 +168,19 @@ void PartialDownloadTracker::discard(const std::string& remotePath) {
     });
 }
 
-bool PartialDownloadTracker::beginWriting(const std::filesystem::path& tempPath) {
-    std::lock_guard lock(mutex_);
-    return beingWritten_.insert(tempPath).second;
+std::unique_ptr<PartialDownloadTracker::WritingClaim> PartialDownloadTracker::claimForWriting(
+    const std::filesystem::path& tempPath) {
+    std::lock_guard lock(claims_->mutex);
+    if (!claims_->paths.insert(tempPath).second)
+        return nullptr;
+    return std::make_unique<WritingClaim>(claims_, tempPath);
 }
 
-void PartialDownloadTracker::endWriting(const std::filesystem::path& tempPath) {
-    std::lock_guard lock(mutex_);
-    beingWritten_.erase(tempPath);
+PartialDownloadTracker::WritingClaim::~WritingClaim() {
+    if (auto claims = claims_.lock()) {
+        std::lock_guard lock(claims->mutex);
+        claims->paths.erase(path_);
+    }
 }
 
 std::vector<std::filesystem::path> PartialDownloadTracker::orphanedFiles(

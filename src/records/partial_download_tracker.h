@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <set>
@@ -60,9 +61,11 @@ public:
     // Drops the record and deletes its temporary file.
     void discard(const std::string& remotePath);
 
-    // Claims `tempPath` for one transfer; false while another transfer holds it.
-    bool beginWriting(const std::filesystem::path& tempPath);
-    void endWriting(const std::filesystem::path& tempPath);
+    // A temporary file held for one transfer until the claim is destroyed. A claim may outlive
+    // the tracker (a transfer's frame freed late at shutdown): it then lets go of nothing.
+    class WritingClaim;
+    // The claim of `tempPath`, or nothing while another transfer holds it.
+    std::unique_ptr<WritingClaim> claimForWriting(const std::filesystem::path& tempPath);
 
     // The ".tarnel-partial" files directly in `directory` that no record claims, hidden ones
     // left out. The caller deletes them.
@@ -89,11 +92,28 @@ private:
     std::mutex writeMutex_;
     mutable std::mutex mutex_;
     std::map<std::string, PartialDownload> partials_;
-    std::set<std::filesystem::path> beingWritten_;
+    struct Claims {
+        std::mutex mutex;
+        std::set<std::filesystem::path> paths;
+    };
+    std::shared_ptr<Claims> claims_ = std::make_shared<Claims>();
     TimePoint lastWrite_;
     bool unsaved_ = false;
     bool writeQueued_ = false;
     SerialQueue queue_;  // last: its thread must stop before the rest goes
+};
+
+class PartialDownloadTracker::WritingClaim {
+public:
+    WritingClaim(std::weak_ptr<Claims> claims, std::filesystem::path path)
+        : claims_(std::move(claims)), path_(std::move(path)) {}
+    ~WritingClaim();
+    WritingClaim(const WritingClaim&) = delete;
+    WritingClaim& operator=(const WritingClaim&) = delete;
+
+private:
+    std::weak_ptr<Claims> claims_;
+    std::filesystem::path path_;
 };
 
 }  // namespace tarnel
