@@ -178,6 +178,25 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
             co_return result;
         }
 
+        // Placed in an earlier run that ended before its booking reached the disk: booked now,
+        // not fetched again.
+        if (auto record = partials.partial(key); record && !record->placedPath.empty()) {
+            partials.remove(key);
+            std::error_code ec;
+            const auto placedSize = fs::file_size(record->placedPath, ec);
+            if (!ec && record->expectedSize == file.size &&
+                static_cast<std::int64_t>(placedSize) == file.size) {
+                const fs::path placed = record->placedPath;
+                log("Placed before the last stop, booked now: " + key + " \u2192 " +
+                    placed.filename().string());
+                result.finalName = placed.filename().string();
+                result.destinationPath = placed.parent_path().string();
+                result.success = true;
+                recordTransfer(result);
+                co_return result;
+            }
+        }
+
         // Resume, when a temporary file of this very remote file is there and not yet whole.
         bool resume = false;
         std::int64_t offset = 0;
@@ -216,7 +235,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
         if (!resume) {
             const auto now = clock.now();
             partials.record(
-                {key, tempPath.string(), file.size, 0, config_.id.toString(), now, now, 0});
+                {key, tempPath.string(), file.size, 0, config_.id.toString(), now, now, 0, ""});
         }
         DownloadProgress row;
         row.fileName = file.name;
@@ -264,10 +283,15 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
             co_return result;
         }
 
-        // The record goes first: a crash between the two leaves a temporary file that the next
-        // start sweeps away, never a record of a file that has been placed.
-        partials.remove(key);
+        // A file that stays on the server keeps its record, marked placed, until its booking is
+        // surely on disk (the next poll): a crash meanwhile books it at the next start instead
+        // of fetching it again. One that is moved off the server loses its record first, so no
+        // record can ever stand for a later file of the same name.
         fs::path placed = uniqueDestinationURL(fs::path(folder) / file.name);
+        if (config_.deleteAfterDownload)
+            partials.remove(key);
+        else
+            partials.markPlaced(key, placed.string());
         moveFile(tempPath, placed);
         if (matchedRule) applyFinderTags(placed, matchedRule->tagColor, matchedRule->tagName);
         log(std::string("Verified") + (resume ? " (resumed)" : "") + ": " + key + " \u2014 " +
@@ -278,6 +302,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
         if (newName != file.name) {
             if (auto bad = remotePathProblem(newName)) throw LocalFailure{*bad};
             fs::path renamed = uniqueDestinationURL(placed.parent_path() / newName);
+            if (!config_.deleteAfterDownload) partials.markPlaced(key, renamed.string());
             moveFile(placed, renamed);
             log("Renamed: " + file.name + " \u2192 " + renamed.filename().string());
             placed = renamed;
@@ -288,6 +313,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
         // Booked now, before anything else can fail or the program end: a placed file is never
         // fetched again and always has its history entry.
         recordTransfer(result);
+        if (!config_.deleteAfterDownload) placedRecords_.push_back(key);
         if (config_.autoDecompress) decompressIfNeeded(placed);
 
         if (config_.deleteAfterDownload) {

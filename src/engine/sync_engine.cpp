@@ -14,6 +14,7 @@
 #include "records/app_settings.h"
 #include "records/download_tracker.h"
 #include "records/notification_service.h"
+#include "records/partial_download_tracker.h"
 
 namespace tarnel {
 
@@ -191,6 +192,8 @@ Task<void> SyncEngine::pollOnce() {
 }
 
 Task<void> SyncEngine::runPoll() {
+    for (const auto& key : placedRecords_) services_.partialTracker.remove(key);
+    placedRecords_.clear();
     if (auto error = checkLocalFolder()) {
         folderFailure(*error);
         co_return;

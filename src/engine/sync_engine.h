@@ -156,6 +156,9 @@ private:
     int consecutiveFailures_ = 0;
     std::vector<std::string> dynamicSelectedPaths_;
     std::set<std::string> undeletedFiles_;
+    // Keys whose partial record marks a file placed and booked; the records go at the next poll,
+    // when the booking is surely on disk.
+    std::vector<std::string> placedRecords_;
     Subscription sleepObservers_;
 };
 

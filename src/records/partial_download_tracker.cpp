@@ -19,10 +19,11 @@ nlohmann::json toJson(const PartialDownload& p) {
             {"connectionId", p.connectionId},
             {"startedAt", toReferenceSeconds(p.startedAt)},
             {"lastResumedAt", toReferenceSeconds(p.lastResumedAt)},
-            {"resumeAttempts", p.resumeAttempts}};
+            {"resumeAttempts", p.resumeAttempts},
+            {"placedPath", p.placedPath}};
 }
 
-// Every key is required: a record that lacks one makes the whole file unreadable.
+// Every key but placedPath is required: a record that lacks one makes the whole file unreadable.
 PartialDownload fromJson(const nlohmann::json& j) {
     PartialDownload p;
     p.remotePath = j.at("remotePath").get<std::string>();
@@ -33,6 +34,7 @@ PartialDownload fromJson(const nlohmann::json& j) {
     p.startedAt = fromReferenceSeconds(j.at("startedAt").get<double>());
     p.lastResumedAt = fromReferenceSeconds(j.at("lastResumedAt").get<double>());
     p.resumeAttempts = j.at("resumeAttempts").get<int>();
+    p.placedPath = j.value("placedPath", std::string());  // older files lack it
     return p;
 }
 
@@ -148,6 +150,17 @@ void PartialDownloadTracker::incrementResumeAttempts(const std::string& remotePa
             it->second.resumeAttempts += 1;
             it->second.lastResumedAt = clock_.now();
         }
+        return true;
+    });
+}
+
+void PartialDownloadTracker::markPlaced(const std::string& remotePath,
+                                        const std::string& placedPath) {
+    changeAndWrite([&] {
+        auto it = partials_.find(remotePath);
+        if (it == partials_.end())
+            return false;
+        it->second.placedPath = placedPath;
         return true;
     });
 }

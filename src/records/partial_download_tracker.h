@@ -26,6 +26,9 @@ struct PartialDownload {
     TimePoint startedAt;
     TimePoint lastResumedAt;
     int resumeAttempts = 0;
+    // Where the file was placed, once it has been: until its booking is surely on disk, a
+    // restart books it from here rather than fetching it again.
+    std::string placedPath;
 
     bool operator==(const PartialDownload&) const = default;
 };
@@ -56,6 +59,7 @@ public:
     std::optional<PartialDownload> partial(const std::string& remotePath) const;
     void updateProgress(const std::string& remotePath, std::int64_t bytes);
     void incrementResumeAttempts(const std::string& remotePath);
+    void markPlaced(const std::string& remotePath, const std::string& placedPath);
     // Drops the record; the temporary file stays.
     void remove(const std::string& remotePath);
     // Drops the record and deletes its temporary file.

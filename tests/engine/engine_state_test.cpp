@@ -258,5 +258,34 @@ TEST_F(EngineStateTest, RetryWaitsPastTheTwentiethAttemptAreToldWhole) {
     EXPECT_FALSE(hasLogLine("in -"));
 }
 
+// Copy mode: a placed file's record stays, marked placed, until its booking is surely on disk.
+// A run that ended in between books the file at the next start instead of fetching it again.
+TEST_F(EngineStateTest, AFilePlacedByARunThatDiedIsBookedNotFetchedAgain) {
+    config.requiredStableChecks = 0;
+    config.deleteAfterDownload = false;
+    server->files = {{"a.txt", "alpha"}, {"b.txt", "bravo"}, {"c.txt", "charlie"}};
+    fs::create_directories(dir / "inbox");
+    std::ofstream(dir / "inbox" / "a.txt") << "alpha";
+    const auto then = loop.now();
+    partials.record({"a.txt", (dir / "inbox" / "a.txt.tarnel-partial").string(), 5, 5,
+                     config.id.toString(), then, then, 0, (dir / "inbox" / "a.txt").string()});
+    // One whose placed file has gone since is fetched as usual.
+    partials.record({"c.txt", (dir / "inbox" / "c.txt.tarnel-partial").string(), 7, 7,
+                     config.id.toString(), then, then, 0, (dir / "inbox" / "gone.txt").string()});
+    auto engine = makeEngine();
+    engine->start();
+    loop.advance(30s);
+    EXPECT_TRUE(hasLogLine("[Test] Placed before the last stop, booked now: a.txt \u2192 a.txt"));
+    EXPECT_FALSE(fs::exists(dir / "inbox" / "a (1).txt"));
+    EXPECT_EQ(readFile(dir / "inbox" / "c.txt"), "charlie");
+    EXPECT_EQ(history.entries()().size(), 3u);
+    EXPECT_EQ(partials.partial("b.txt")->placedPath, (dir / "inbox" / "b.txt").string());
+
+    loop.advance(30s);
+    for (const char* key : {"a.txt", "b.txt", "c.txt"}) EXPECT_FALSE(partials.partial(key)) << key;
+    EXPECT_EQ(history.entries()().size(), 3u);
+    EXPECT_EQ(engine->totalTransferred()(), 3);
+}
+
 }  // namespace
 }  // namespace tarnel::testing

@@ -138,7 +138,7 @@ TEST_F(EngineTransferFtpTest, ACutResumeIsResumedAgainAndAChangedFileIsFetchedWh
     std::ofstream(dir / "inbox" / "big.bin.tarnel-partial", std::ios::binary) << content.substr(0, 100'000);
     const auto then = loop.now();
     partials.record({"big.bin", (dir / "inbox" / "big.bin.tarnel-partial").string(), 400'000,
-                     100'000, config.id.toString(), then, then, 0});
+                     100'000, config.id.toString(), then, then, 0, ""});
 
     server.cutTransfersAfter(150'000);  // the resumed attempt is cut too: its bytes stay
     auto engine = makeServerEngine();
@@ -159,7 +159,7 @@ TEST_F(EngineTransferFtpTest, ACutResumeIsResumedAgainAndAChangedFileIsFetchedWh
     serve("next.bin", changed);
     std::ofstream(dir / "inbox" / "next.bin.tarnel-partial", std::ios::binary) << content.substr(0, 50'000);
     partials.record({"next.bin", (dir / "inbox" / "next.bin.tarnel-partial").string(), 400'000,
-                     50'000, config.id.toString(), then, then, 0});
+                     50'000, config.id.toString(), then, then, 0, ""});
     loop.advance(10s);
     EXPECT_TRUE(hasLogLine("[Test] Remote file changed, discarding partial: next.bin"));
     EXPECT_EQ(readFile(dir / "inbox" / "next.bin"), changed);

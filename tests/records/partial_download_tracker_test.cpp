@@ -16,7 +16,7 @@ class PartialDownloadTrackerTest : public testing::Test {
 protected:
     PartialDownload sample(const std::string& key) const {
         auto temp = (dir / (key + ".tarnel-partial")).string();
-        return {key, temp, 1000, 0, "C0FFEE", clock.now(), clock.now(), 0};
+        return {key, temp, 1000, 0, "C0FFEE", clock.now(), clock.now(), 0, ""};
     }
     std::int64_t bytesOnDisk() const {
         return nlohmann::json::parse(readWholeFile(file).value())[0]["downloadedBytes"];
