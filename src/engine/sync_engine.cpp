@@ -40,7 +40,11 @@ SyncEngine::SyncEngine(ConnectionConfig config, std::unique_ptr<RemoteService> f
       downloadTracker_(std::move(downloadTracker)),
       services_(services) {}
 
-SyncEngine::~SyncEngine() = default;  // the timer and the sleep observers end with their handles
+// The timer and the sleep observers end with their handles. Records of placed files go with
+// the engine that would have dropped them at its next poll.
+SyncEngine::~SyncEngine() {
+    for (const auto& key : placedRecords_) services_.partialTracker.remove(key);
+}
 
 void SyncEngine::log(const std::string& text, LogLevel level) const {
     services_.logService.log("[" + config_.name + "] " + text, level);
