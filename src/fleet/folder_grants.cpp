@@ -14,12 +14,28 @@ void ConnectionsManager::restoreFolderGrants() {
             LogLevel::info);
     activeRuleBookmarks_ = bookmarks_.restoreAllRules(list);
     activeFallbackBookmarks_ = bookmarks_.restoreAllFallbacks(list);
+    // Rule and fallback folders that are missing keep their bookmarks; routing uses them again
+    // once they are back.
+    const auto& store = services_.settingsStore;
+    const auto sayMissing = [&](const ConnectionConfig& c, const std::string& what,
+                                const std::string& key) {
+        if (auto path = store.stringValue(key))
+            services_.logService.log("[" + c.name + "] " + what + " missing: " + *path +
+                                         " \u2014 its bookmark is kept until it is back",
+                                     LogLevel::warning);
+    };
+    for (const auto& c : list) {
+        for (const auto& rule : c.routingRules)
+            if (rule.destinationPath && !activeRuleBookmarks_.contains(rule.id))
+                sayMissing(c, "Rule folder", BookmarkManager::ruleBookmarkKey(rule.id));
+        if (c.fallbackBehavior == FallbackBehavior::useSpecificFolder &&
+            !activeFallbackBookmarks_.contains(c.id))
+            sayMissing(c, "Fallback folder", BookmarkManager::fallbackBookmarkKey(c.id));
+    }
     for (const auto& c : list) {
         if (c.localPath.empty() || activeBookmarks_.contains(c.id)) continue;
         if (bookmarks_.hasBookmark(c.id))
-            services_.logService.log("[" + c.name + "] Local folder missing: " + c.localPath +
-                                         " \u2014 its bookmark is kept until it is back",
-                                     LogLevel::warning);
+            sayMissing(c, "Local folder", BookmarkManager::bookmarkKey(c.id));
         else
             services_.logService.log("[" + c.name +
                                          "] Folder bookmark missing or invalid \u2014 user must "
