@@ -15,6 +15,7 @@
 #include "app/instance_channel.h"
 #include "app/instance_lock.h"
 #include "connections/connection_config_json.h"
+#include "platform/qt/qt_settings_store.h"
 
 namespace {
 
@@ -48,16 +49,32 @@ int main(int argc, char** argv) {
         std::cout << CommandLine::helpText();
         return 0;
     }
+    const auto paths = AppPaths::fromEnvironment();
+    if (options.list) {
+        try {
+            const QtSettingsStore store(paths.settingsFile);
+            const auto text = store.stringValue("tarnel_connections_v2");
+            std::cout << connectionListText(text ? decodeConnectionList(*text)
+                                                 : std::vector<ConnectionConfig>{});
+        } catch (const std::exception& e) {
+            std::cerr << "tarnel: the stored connections do not read: " << e.what() << "\n";
+            return 2;
+        }
+        return 0;
+    }
     if (!options.headless && !options.importFile) {
         std::cerr << "tarnel: the tray application is not built yet; run 'tarnel --headless'\n";
         return 2;
     }
 
     // A file that does not read imports nothing, before anything is built.
-    std::vector<ConnectionConfig> imported;
+    ConnectionImport import;
+    const auto& imported = import.records;
     if (options.importFile) {
         try {
-            imported = readConnectionImport(*options.importFile);
+            import = readConnectionImport(*options.importFile);
+            if (const auto defaults = import.defaultsText(); !defaults.empty())
+                std::cout << defaults << "\n";
         } catch (const std::exception& e) {
             std::cerr << "tarnel: cannot import " << *options.importFile << ": " << e.what()
                       << "\nNothing was imported.\n";
@@ -65,7 +82,6 @@ int main(int argc, char** argv) {
         }
     }
 
-    const auto paths = AppPaths::fromEnvironment();
     const int signals = blockStopSignals();
     QCoreApplication app(argc, argv);
 
