@@ -56,7 +56,7 @@ Tarnel watches FTP, FTPS and SFTP folders and pulls each file once its size has 
 Stores (set the XDG variables to keep a run apart):
   $XDG_CONFIG_HOME/Tarnel/Tarnel.conf     settings and connections
   $XDG_DATA_HOME/Tarnel/                  history.json, partials.json, known_hosts
-  $XDG_STATE_HOME/Tarnel/Tarnel.log       the log
+  $XDG_STATE_HOME/Tarnel/Tarnel.log       the log (Tarnel.log.1 the one before, from 10 MB)
 )";
 }
 
