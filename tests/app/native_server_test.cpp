@@ -130,6 +130,11 @@ TEST_P(NativeServerTest, MoveModeMovesEveryFileOnceAndAnIdleFolderWarnsOnce) {
 INSTANTIATE_TEST_SUITE_P(Servers, NativeServerTest,
                          ::testing::Values(Case{NativeServerKind::vsftpd, false},
                                            Case{NativeServerKind::vsftpd, true},
+                                           // enters no folder outside the home, "/" included
+                                           Case{NativeServerKind::proftpd, false},
+                                           Case{NativeServerKind::proftpdFtps, true},
+                                           Case{NativeServerKind::proftpdSftp, true},
+                                           Case{NativeServerKind::pureFtpd, true},
                                            Case{NativeServerKind::openssh, true}),
                          caseName);
 

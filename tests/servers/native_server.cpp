@@ -32,10 +32,25 @@ fs::path binaryOf(NativeServerKind kind) {
     switch (kind) {
         case NativeServerKind::vsftpd:
             return unpacked / "vsftpd/usr/sbin/vsftpd";
+        case NativeServerKind::proftpd:
+        case NativeServerKind::proftpdFtps:
+        case NativeServerKind::proftpdSftp:
+            return unpacked / "proftpd/usr/sbin/proftpd";
+        case NativeServerKind::pureFtpd:
+            return unpacked / "pure-ftpd/usr/sbin/pure-ftpd";
         case NativeServerKind::openssh:
             return "/usr/sbin/sshd";
     }
     return {};
+}
+
+bool isProftpd(NativeServerKind kind) {
+    return kind == NativeServerKind::proftpd || kind == NativeServerKind::proftpdFtps ||
+           kind == NativeServerKind::proftpdSftp;
+}
+
+void run(const std::string& command) {
+    if (std::system(command.c_str()) != 0) throw std::runtime_error("failed: " + command);
 }
 
 std::string readFile(const fs::path& file) {
@@ -74,6 +89,14 @@ const char* nativeServerName(NativeServerKind kind) {
     switch (kind) {
         case NativeServerKind::vsftpd:
             return "vsftpd";
+        case NativeServerKind::proftpd:
+            return "proftpd";
+        case NativeServerKind::proftpdFtps:
+            return "proftpd_ftps";
+        case NativeServerKind::proftpdSftp:
+            return "proftpd_sftp";
+        case NativeServerKind::pureFtpd:
+            return "pure_ftpd";
         case NativeServerKind::openssh:
             return "openssh";
     }
@@ -118,11 +141,18 @@ NativeServer::NativeServer(NativeServerKind kind)
     port_ = freePort();
     writeConfig();
 
+    const std::string conf = (stateDir_ / "server.conf").string();
     std::vector<std::string> args{binaryOf(kind).string()};
     if (kind == NativeServerKind::vsftpd) {
-        args.push_back((stateDir_ / "server.conf").string());
+        args.push_back(conf);
+    } else if (isProftpd(kind)) {
+        args.insert(args.end(), {"-n", "-c", conf});
+    } else if (kind == NativeServerKind::pureFtpd) {
+        // Unix accounts, no anonymous login, no chroot (that takes -A), in the foreground.
+        args.insert(args.end(), {"-S", "127.0.0.1," + std::to_string(port_), "-l", "unix", "-E",
+                                 "-H", "-c", "50", "-C", "50"});
     } else {
-        args.insert(args.end(), {"-D", "-e", "-f", (stateDir_ / "server.conf").string()});
+        args.insert(args.end(), {"-D", "-e", "-f", conf});
     }
     std::vector<char*> argv;
     for (auto& a : args) argv.push_back(a.data());
@@ -161,6 +191,11 @@ NativeServer::~NativeServer() {
 void NativeServer::writeConfig() {
     std::ofstream conf(stateDir_ / "server.conf");
     const std::string state = stateDir_.string();
+    if (isProftpd(kind_)) {
+        writeProftpdConfig(conf);
+        return;
+    }
+    if (kind_ == NativeServerKind::pureFtpd) return;  // all on its command line
     if (kind_ == NativeServerKind::vsftpd) {
         // Debian's defaults for a local user, in the foreground: no chroot, writes allowed.
         // PAM falls back to the "other" service (pam_unix), as no service of its own is installed.
@@ -176,8 +211,7 @@ void NativeServer::writeConfig() {
     }
     // OpenSSH's sshd with Debian's SFTP server; an Ed25519 host key of its own.
     const auto key = stateDir_ / "host_ed25519";
-    const std::string keygen = "ssh-keygen -q -t ed25519 -N '' -f " + key.string();
-    if (std::system(keygen.c_str()) != 0) throw std::runtime_error("ssh-keygen failed");
+    run("ssh-keygen -q -t ed25519 -N '' -f " + key.string());
     fs::create_directories("/run/sshd");
     conf << "Port " << port_ << "\nListenAddress 127.0.0.1\nHostKey " << key.string()
          << "\nPidFile " << state << "/sshd.pid\nUsePAM no\nPasswordAuthentication yes\n"
@@ -186,11 +220,54 @@ void NativeServer::writeConfig() {
             "LogLevel VERBOSE\n";
 }
 
+// Debian's defaults, in the foreground, with the modules of proftpd-mod-crypto from beside it.
+void NativeServer::writeProftpdConfig(std::ofstream& conf) {
+    const std::string state = stateDir_.string();
+    const std::string home = NativeServer::home().string();
+    conf << "ServerType standalone\nPort " << port_
+         << "\nDefaultAddress 127.0.0.1\nSocketBindTight on\nUseIPv6 off\n"
+            "User nobody\nGroup nogroup\nScoreboardFile "
+         << state << "/scoreboard\nPidFile " << state
+         << "/proftpd.pid\nDelayTable none\nWtmpLog off\nUseReverseDNS off\n"
+            "AuthPAM off\nAuthOrder mod_auth_unix.c\nAllowOverwrite on\nMaxInstances 100\n"
+            "ModulePath "
+         << (unpacked / "proftpd/usr/lib/proftpd").string() << "\nSystemLog " << state
+         << "/system.log\nExtendedLog " << state << "/protocol.log ALL default\n";
+    switch (kind_) {
+        case NativeServerKind::proftpd:
+            // Only the home can be entered: no CWD to "/" may be needed by anything.
+            conf << "<Directory />\n<Limit CWD XCWD>\nDenyAll\n</Limit>\n</Directory>\n";
+            for (const std::string& open : {home, home + "/*"})
+                conf << "<Directory " << open
+                     << ">\n<Limit CWD XCWD>\nAllowAll\n</Limit>\n</Directory>\n";
+            break;
+        case NativeServerKind::proftpdFtps:
+            run("openssl req -x509 -newkey rsa:2048 -nodes -days 2 -subj /CN=127.0.0.1 -keyout " +
+                state + "/key.pem -out " + state + "/cert.pem 2>/dev/null");
+            conf << "LoadModule mod_tls.c\nTLSEngine on\nTLSRequired on\nTLSRSACertificateFile "
+                 << state << "/cert.pem\nTLSRSACertificateKeyFile " << state
+                 << "/key.pem\nTLSProtocol TLSv1.2 TLSv1.3\nTLSOptions NoSessionReuseRequired\n";
+            break;
+        case NativeServerKind::proftpdSftp:
+            run("ssh-keygen -q -t ed25519 -N '' -f " + state + "/host_ed25519");
+            conf << "LoadModule mod_sftp.c\nSFTPEngine on\nSFTPHostKey " << state
+                 << "/host_ed25519\nSFTPAuthMethods password\nSFTPLog " << state
+                 << "/protocol.log\n";
+            break;
+        default:
+            break;
+    }
+}
+
 ConnectionConfig NativeServer::connectionConfig() const {
     ConnectionConfig config;
     config.name = nativeServerName(kind_);
     config.transferProtocol =
-        kind_ == NativeServerKind::openssh ? TransferProtocol::sftp : TransferProtocol::ftp;
+        kind_ == NativeServerKind::openssh || kind_ == NativeServerKind::proftpdSftp
+            ? TransferProtocol::sftp
+        : kind_ == NativeServerKind::proftpdFtps ? TransferProtocol::ftps
+                                                 : TransferProtocol::ftp;
+    config.allowSelfSignedCerts = true;
     config.host = "127.0.0.1";
     config.port = port_;
     config.username = user;
@@ -201,7 +278,8 @@ ConnectionConfig NativeServer::connectionConfig() const {
 }
 
 std::string NativeServer::protocolLog() const {
-    return readFile(stateDir_ / (kind_ == NativeServerKind::vsftpd ? "protocol.log" : "output.log"));
+    const bool ownLog = kind_ == NativeServerKind::vsftpd || isProftpd(kind_);
+    return readFile(stateDir_ / (ownLog ? "protocol.log" : "output.log"));
 }
 
 }  // namespace tarnel::testing

@@ -3,6 +3,7 @@
 #include <sys/types.h>
 
 #include <filesystem>
+#include <fstream>
 #include <optional>
 #include <string>
 
@@ -12,8 +13,9 @@ namespace tarnel::testing {
 
 // Servers as Debian ships them, run from their unpacked packages (their packages conflict, so
 // tests/servers/native/install unpacks each into its own folder) on 127.0.0.1 with a free port,
-// and never chrooted: the test user logs in to a home folder deep below "/".
-enum class NativeServerKind { vsftpd, openssh };
+// and never chrooted: the test user logs in to a home folder deep below "/". proftpd over plain
+// FTP also refuses to enter any folder outside that home, "/" included.
+enum class NativeServerKind { vsftpd, proftpd, proftpdFtps, proftpdSftp, pureFtpd, openssh };
 
 const char* nativeServerName(NativeServerKind kind);
 
@@ -40,13 +42,16 @@ public:
     // Gives everything below `path` to the test user, so the server may delete it.
     static void handOver(const std::filesystem::path& path);
 
-    // protocol, host, port, user, password; remotePath "/", pollInterval 1.
+    // protocol, host, port, user, password (self-signed certificates allowed); remotePath "/",
+    // pollInterval 1.
     ConnectionConfig connectionConfig() const;
-    // What the server wrote of its dialogue (vsftpd: every command and reply).
+    // What the server wrote of its dialogue (vsftpd: every command and reply; proftpd: every
+    // command with its reply code).
     std::string protocolLog() const;
 
 private:
     void writeConfig();
+    void writeProftpdConfig(std::ofstream& conf);
 
     NativeServerKind kind_;
     std::filesystem::path stateDir_;
