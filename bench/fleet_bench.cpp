@@ -1,7 +1,8 @@
 // Tarnel's engine beside its peers, on the same local servers in the same run:
 //   small-files  1,000 files of 10 KB, stable at once, 4 at a time, deleted after download,
 //                from the first poll to the last file placed; beside lftp mirror -P4
-//                --Remove-source-files and rclone move --transfers 4.
+//                --Remove-source-files and rclone move --transfers 4. On the Python test
+//                servers, or (native-small-files) on a server as Debian ships it.
 //   large-file   one 1 GiB file through the engine, beside the curl tool.
 //   idle-fleet   50 connections polling an empty folder every 2 s: CPU per minute, memory.
 // Usage: fleet_bench small-files [ftp|sftp] [count] [folder] | large-file [ftp|sftp] [MiB]
@@ -9,6 +10,8 @@
 #include <chrono>
 #include <cstdio>
 #include <fstream>
+#include <functional>
+#include <optional>
 #include <iostream>
 #include <random>
 #include <thread>
@@ -36,6 +39,7 @@
 #include "records/notification_service.h"
 #include "records/partial_download_tracker.h"
 #include "records/stats_service.h"
+#include "servers/native_server.h"
 #include "servers/test_server.h"
 #include "transfer/curl_transfer_client.h"
 #include "transfer/ftp_service.h"
@@ -172,8 +176,7 @@ struct Bench {
     }
 };
 
-ConnectionConfig engineConfig(const TestServer& server, const fs::path& into) {
-    auto c = server.connectionConfig();
+ConnectionConfig engineConfig(ConnectionConfig c, const fs::path& into) {
     c.name = "Bench";
     c.localPath = into.string();
     c.requiredStableChecks = 0;
@@ -183,15 +186,15 @@ ConnectionConfig engineConfig(const TestServer& server, const fs::path& into) {
     return c;
 }
 
-std::string lftpUrl(const TestServer& server, ServerProtocol p) {
-    return std::string(p == ServerProtocol::sftp ? "sftp" : "ftp") + "://" + server.user() + ":" +
-           server.password() + "@127.0.0.1:" + std::to_string(server.port()) + "/";
+std::string peerUrl(const ConnectionConfig& c) {
+    return std::string(c.transferProtocol == TransferProtocol::sftp ? "sftp" : "ftp") + "://" +
+           c.username + ":" + c.password + "@127.0.0.1:" + std::to_string(c.port) + "/";
 }
 
-std::string rcloneRemote(const TestServer& server, ServerProtocol p) {
-    const std::string obscured = capture({"rclone", "obscure", server.password()});
-    return std::string(p == ServerProtocol::sftp ? ":sftp" : ":ftp") +
-           ",host=127.0.0.1,port=" + std::to_string(server.port()) + ",user=" + server.user() +
+std::string rcloneRemote(const ConnectionConfig& c) {
+    const std::string obscured = capture({"rclone", "obscure", c.password});
+    return std::string(c.transferProtocol == TransferProtocol::sftp ? ":sftp" : ":ftp") +
+           ",host=127.0.0.1,port=" + std::to_string(c.port) + ",user=" + c.username +
            ",pass=" + obscured + ":";
 }
 
@@ -200,48 +203,96 @@ void report(const std::string& who, double seconds, std::size_t files, std::uint
                 files / seconds, bytes / seconds / 1e6);
 }
 
-// `folder` empty: the files lie in the server's root, which the client lists again after each
-// delete (libcurl goes on to its usual work on the root URL after the quote command).
-int smallFiles(ServerProtocol protocol, int count, const std::string& folder) {
-    Bench bench;
-    TestServer server({protocol, bench.dir / "server"});
-    const fs::path source = server.root() / folder;
-    fs::create_directories(source);
-    const std::string remote = folder.empty() ? "" : folder + "/";
+// A server's folder that the contenders empty, named three ways.
+struct Drop {
+    ConnectionConfig server;   // protocol, address and login
+    fs::path local;            // the folder on this machine
+    std::string belowLogin;    // its path below the login folder ("" for the login folder)
+    std::string engineRemote;  // its remotePath for the engine (absolute for SFTP)
+    std::function<void()> handOver = [] {};  // gives new files to the server's user
+};
+
+// `belowLogin` empty: the files lie in the login folder itself.
+void smallFiles(const Drop& drop, int count, const fs::path& scratch) {
+    fs::create_directories(drop.local);
     const std::size_t size = 10 * 1024;
+    const std::uint64_t bytes = std::uint64_t(count) * size;
+    const bool sftp = drop.server.transferProtocol == TransferProtocol::sftp;
     std::printf("%d files of 10 KB over %s in %s (delete after download, 4 at a time)\n", count,
-                protocol == ServerProtocol::sftp ? "SFTP" : "FTP", ("/" + remote).c_str());
+                sftp ? "SFTP" : "FTP", ("/" + drop.belowLogin).c_str());
+    const auto prepare = [&](const fs::path& target) {
+        fs::remove_all(target);
+        fill(drop.local, count, size);
+        drop.handOver();
+        settleSockets();
+    };
 
-    auto target = bench.dir / "tarnel";
-    fill(source, count, size);
-    settleSockets();
-    auto config = engineConfig(server, target);
-    config.remotePath = "/" + folder;
-    double t = bench.pollOnce(config);
-    report("tarnel engine", t, countFiles(target), std::uint64_t(count) * size);
+    Bench bench;
+    auto target = scratch / "tarnel";
+    prepare(target);
+    auto config = engineConfig(drop.server, target);
+    config.remotePath = drop.engineRemote;
+    const double t = bench.pollOnce(config);
+    report("tarnel engine", t, countFiles(target), bytes);
 
-    target = bench.dir / "lftp";
-    fill(source, count, size);
-    settleSockets();
-    std::string sftpSetup =
+    target = scratch / "lftp";
+    prepare(target);
+    const std::string sftpSetup =
         "set sftp:auto-confirm yes; set sftp:connect-program 'ssh -a -x -o "
         "StrictHostKeyChecking=no -o UserKnownHostsFile=/dev/null';";
     auto start = Clock::now();
+    // lftp starts an SFTP session in "/", an FTP one in the login folder.
+    const std::string lftpFolder = sftp                     ? drop.engineRemote
+                                   : drop.belowLogin.empty() ? "."
+                                                             : drop.belowLogin;
     run({"lftp", "-c",
-         sftpSetup + " open " + lftpUrl(server, protocol) +
-             "; mirror -P4 --Remove-source-files / " + target.string()});
-    report("lftp mirror -P4 --Remove-source-files", secondsSince(start), countFiles(target),
-           std::uint64_t(count) * size);
+         sftpSetup + " open " + peerUrl(drop.server) + "; mirror -P4 --Remove-source-files '" +
+             lftpFolder + "' " + target.string()});
+    report("lftp mirror -P4 --Remove-source-files", secondsSince(start), countFiles(target), bytes);
 
-    target = bench.dir / "rclone";
-    fill(source, count, size);
-    settleSockets();
+    target = scratch / "rclone";
+    prepare(target);
     start = Clock::now();
-    run({"rclone", "move", "--transfers", "4", rcloneRemote(server, protocol) + "/" + remote,
+    run({"rclone", "move", "--transfers", "4", rcloneRemote(drop.server) + drop.belowLogin,
          target.string()});
-    report("rclone move --transfers 4", secondsSince(start), countFiles(target),
-           std::uint64_t(count) * size);
-    fs::remove_all(bench.dir);
+    report("rclone move --transfers 4", secondsSince(start), countFiles(target), bytes);
+    fs::remove_all(scratch);
+}
+
+// The Python test servers; `folder` below their root, or the root itself.
+int smallFilesOnTestServer(ServerProtocol protocol, int count, const std::string& folder) {
+    const fs::path scratch = "/dev/shm/tarnel-bench";
+    TestServer server({protocol, scratch / "server"});
+    smallFiles({server.connectionConfig(), server.root() / folder, folder, "/" + folder}, count,
+               scratch);
+    return 0;
+}
+
+// vsftpd, OpenSSH, ... as Debian ships them, not chrooted, from a sub-folder of the user's home.
+int smallFilesOnNativeServer(const std::string& name, int count) {
+    using testing::NativeServer;
+    using testing::NativeServerKind;
+    std::optional<NativeServerKind> kind;
+    for (auto k : {NativeServerKind::vsftpd, NativeServerKind::proftpd, NativeServerKind::pureFtpd,
+                   NativeServerKind::proftpdSftp, NativeServerKind::openssh})
+        if (name == testing::nativeServerName(k)) kind = k;
+    if (!kind) {
+        std::fprintf(stderr, "fleet_bench: no native server named %s\n", name.c_str());
+        return 2;
+    }
+    if (const auto why = NativeServer::unavailable(*kind)) {
+        std::fprintf(stderr, "fleet_bench: %s\n", why->c_str());
+        return 2;
+    }
+    NativeServer server(*kind);
+    const fs::path folder = server.makeFolder("bench") / "drop";
+    const auto config = server.connectionConfig();
+    const std::string below = fs::relative(folder, NativeServer::home()).string();
+    smallFiles({config, folder, below,
+                config.transferProtocol == TransferProtocol::sftp ? folder.string() : below,
+                [folder] { NativeServer::handOver(folder.parent_path()); }},
+               count, "/dev/shm/tarnel-bench");
+    fs::remove_all(folder.parent_path());
     return 0;
 }
 
@@ -263,11 +314,11 @@ int largeFile(ServerProtocol protocol, std::size_t mib) {
     }
     auto start = Clock::now();
     run({"curl", "-s", "-k", "-o", (bench.dir / "curl.bin").string(),
-         lftpUrl(server, protocol) + "file-0.bin"});
+         peerUrl(server.connectionConfig()) + "file-0.bin"});
     report("curl", secondsSince(start), 1, bytes);
     fs::remove(bench.dir / "curl.bin");
 
-    double t = bench.pollOnce(engineConfig(server, bench.dir / "tarnel"));
+    double t = bench.pollOnce(engineConfig(server.connectionConfig(), bench.dir / "tarnel"));
     report("tarnel engine (list, fetch, verify, move, delete)", t, countFiles(bench.dir / "tarnel"),
            bytes);
     fs::remove_all(bench.dir);
@@ -346,13 +397,17 @@ int main(int argc, char** argv) {
         argc > 2 && std::string(argv[2]) == "sftp" ? ServerProtocol::sftp : ServerProtocol::ftp;
     const int number = argc > 3 ? std::atoi(argv[3]) : 0;
     if (mode == "small-files")
-        return smallFiles(protocol, number > 0 ? number : 1000, argc > 4 ? argv[4] : "");
+        return smallFilesOnTestServer(protocol, number > 0 ? number : 1000, argc > 4 ? argv[4] : "");
+    if (mode == "native-small-files")
+        return smallFilesOnNativeServer(argc > 2 ? argv[2] : "", number > 0 ? number : 1000);
     if (mode == "large-file")
         return largeFile(protocol, number > 0 ? number : 1024);
     if (mode == "idle-fleet")
         return idleFleet(50, number > 0 ? number : 60);
     std::fprintf(
         stderr,
-        "usage: fleet_bench small-files [ftp|sftp] [count] [folder] | large-file [ftp|sftp] [MiB] | idle-fleet - [seconds]\n");
+        "usage: fleet_bench small-files [ftp|sftp] [count] [folder] | native-small-files "
+        "vsftpd|proftpd|pure_ftpd|proftpd_sftp|openssh [count] | large-file [ftp|sftp] [MiB] | "
+        "idle-fleet - [seconds]\n");
     return 2;
 }

@@ -12,7 +12,10 @@
 #include "app/app_services.h"
 #include "app/command_line.h"
 #include "app/connection_import.h"
+#include "app/instance_channel.h"
+#include "app/instance_lock.h"
 #include "connections/connection_config_json.h"
+#include "platform/qt/qt_settings_store.h"
 
 namespace {
 
@@ -46,16 +49,32 @@ int main(int argc, char** argv) {
         std::cout << CommandLine::helpText();
         return 0;
     }
+    const auto paths = AppPaths::fromEnvironment();
+    if (options.list) {
+        try {
+            const QtSettingsStore store(paths.settingsFile);
+            const auto text = store.stringValue("tarnel_connections_v2");
+            std::cout << connectionListText(text ? decodeConnectionList(*text)
+                                                 : std::vector<ConnectionConfig>{});
+        } catch (const std::exception& e) {
+            std::cerr << "tarnel: the stored connections do not read: " << e.what() << "\n";
+            return 2;
+        }
+        return 0;
+    }
     if (!options.headless && !options.importFile) {
         std::cerr << "tarnel: the tray application is not built yet; run 'tarnel --headless'\n";
         return 2;
     }
 
     // A file that does not read imports nothing, before anything is built.
-    std::vector<ConnectionConfig> imported;
+    ConnectionImport import;
+    const auto& imported = import.records;
     if (options.importFile) {
         try {
-            imported = readConnectionImport(*options.importFile);
+            import = readConnectionImport(*options.importFile);
+            if (const auto defaults = import.defaultsText(); !defaults.empty())
+                std::cout << defaults << "\n";
         } catch (const std::exception& e) {
             std::cerr << "tarnel: cannot import " << *options.importFile << ": " << e.what()
                       << "\nNothing was imported.\n";
@@ -65,6 +84,25 @@ int main(int argc, char** argv) {
 
     const int signals = blockStopSignals();
     QCoreApplication app(argc, argv);
+
+    // One fleet per set of stores: a later launch hands its import to the running one.
+    const InstanceLock lock(paths.instanceLockFile);
+    if (!lock.held()) {
+        bool importedThere = true;
+        if (options.importFile) {
+            const auto answer = InstanceChannel::send(paths.instanceSocket, InstanceRequestKind::import,
+                                                      encodeConnectionList(imported));
+            (answer.ok ? std::cout : std::cerr) << answer.text << "\n";
+            importedThere = answer.ok;
+        }
+        if (options.headless) {
+            const auto pid = lock.holder();
+            std::cerr << "tarnel: Tarnel is already running on these stores (process "
+                      << (pid ? std::to_string(*pid) : std::string("unknown")) << ")\n";
+            return 2;
+        }
+        return importedThere ? 0 : 2;
+    }
     std::function<void(const std::string&)> echo;
     if (options.headless) {
         echo = [](const std::string& line) {
@@ -72,7 +110,7 @@ int main(int argc, char** argv) {
             std::fflush(stdout);
         };
     }
-    AppServices services(AppPaths::fromEnvironment(), std::make_unique<SilentSoundPlayer>(),
+    AppServices services(paths, std::make_unique<SilentSoundPlayer>(),
                          std::move(echo));
 
     if (!options.headless) {
@@ -89,6 +127,20 @@ int main(int argc, char** argv) {
             "No enabled connection with a host to watch; add one with 'tarnel --import FILE' "
             "(see 'tarnel --help')",
             LogLevel::warning);
+
+    InstanceChannel channel(paths.instanceSocket);
+    channel.setHandler(InstanceRequestKind::import, [&](const std::string& payload) {
+        try {
+            const auto summary = importConnections(services.manager(), decodeConnectionList(payload));
+            services.logService().log(summary);
+            return InstanceAnswer{true, summary};
+        } catch (const std::exception& e) {
+            return InstanceAnswer{false, std::string("Nothing was imported: ") + e.what()};
+        }
+    });
+    if (std::string error; !channel.listen(error))
+        services.logService().log(error + "; later launches cannot reach this one",
+                                  LogLevel::warning);
 
     QSocketNotifier stopNotifier(signals, QSocketNotifier::Read);
     QObject::connect(&stopNotifier, &QSocketNotifier::activated, &app, [&] {

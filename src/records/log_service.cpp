@@ -19,8 +19,9 @@ const char* logLevelWord(LogLevel level) {
     return "INFO";
 }
 
-LogService::LogService(MainLoop& loop, const Clock& clock, std::filesystem::path logFile)
-    : loop_(loop), clock_(clock), logFile_(std::move(logFile)) {
+LogService::LogService(MainLoop& loop, const Clock& clock, std::filesystem::path logFile,
+                       std::uintmax_t rotateAtBytes)
+    : loop_(loop), clock_(clock), logFile_(std::move(logFile)), rotateAtBytes_(rotateAtBytes) {
     std::error_code ignored;
     std::filesystem::create_directories(logFile_.parent_path(), ignored);
 }
@@ -45,6 +46,9 @@ void LogService::log(const std::string& message, LogLevel level) {
     queue_.async([this, line = formattedLine(entry)] {
         // Appending creates the file when it is missing, e.g. deleted while we run. Failures to
         // write the log are never reported.
+        std::error_code ec;
+        if (const auto size = std::filesystem::file_size(logFile_, ec); !ec && size >= rotateAtBytes_)
+            std::filesystem::rename(logFile_, std::filesystem::path(logFile_) += ".1", ec);
         std::ofstream out(logFile_, std::ios::app | std::ios::binary);
         if (out) out << line << '\n';
         if (echo_) echo_(line);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -26,12 +27,16 @@ struct LogEntry {
 };
 
 // The one sink for what the program tells about its work: the last 100 entries in memory for
-// the log window, every entry appended to the log file by its own writer thread.
+// the log window, every entry appended to the log file by its own writer thread. A file that has
+// reached `rotateAtBytes` becomes "<name>.1" (replacing the one before) and a new file begins, so
+// months of unattended running keep to about twice that.
 class LogService {
 public:
     static constexpr std::size_t maxEntries = 100;
+    static constexpr std::uintmax_t defaultRotateAtBytes = 10'000'000;
 
-    LogService(MainLoop& loop, const Clock& clock, std::filesystem::path logFile);
+    LogService(MainLoop& loop, const Clock& clock, std::filesystem::path logFile,
+               std::uintmax_t rotateAtBytes = defaultRotateAtBytes);
 
     // Callable from any thread. Callers compose "[name] text"; the service adds time and level.
     void log(const std::string& message, LogLevel level = LogLevel::info);
@@ -55,6 +60,7 @@ private:
     MainLoop& loop_;
     const Clock& clock_;
     std::filesystem::path logFile_;
+    std::uintmax_t rotateAtBytes_;
     Observable<std::vector<LogEntry>> entries_;
     std::function<void(const std::string&)> echo_;
     SerialQueue queue_;

@@ -46,5 +46,19 @@ TEST(LogService, ADeletedFileIsCreatedAgainByTheNextLine) {
     ASSERT_EQ(log.entries().value().size(), 1u);
 }
 
+TEST(LogService, AFullFileBecomesTheOnePreviousFile) {
+    TestDir dir("log-rotated");
+    VirtualLoop loop;
+    const std::string line = "[2024-03-07 09:00:00] INFO [A] 0123456789\n";  // 40 bytes
+    LogService log(loop, loop, dir / "Tarnel.log", 100);
+    for (int i = 0; i < 8; ++i) log.log("[A] 0123456789");
+    log.flush();
+
+    // Three lines fill the file past 100 bytes; the fourth starts a new one, twice over.
+    EXPECT_EQ(readWholeFile(dir / "Tarnel.log.1"), line + line + line);
+    EXPECT_EQ(readWholeFile(dir / "Tarnel.log"), line + line);
+    EXPECT_FALSE(std::filesystem::exists(dir / "Tarnel.log.2"));
+}
+
 }  // namespace
 }  // namespace tarnel
