@@ -1,4 +1,4 @@
-// tarnel: the headless runner and the connection import. The tray application joins later.
+// tarnel: the tray application, the headless runner and the connection import.
 #include <sys/signalfd.h>
 #include <unistd.h>
 
@@ -12,6 +12,7 @@
 #include "app/app_services.h"
 #include "app/command_line.h"
 #include "app/connection_import.h"
+#include "app/tray_application.h"
 #include "connections/connection_config_json.h"
 
 namespace {
@@ -46,10 +47,7 @@ int main(int argc, char** argv) {
         std::cout << CommandLine::helpText();
         return 0;
     }
-    if (!options.headless && !options.importFile) {
-        std::cerr << "tarnel: the tray application is not built yet; run 'tarnel --headless'\n";
-        return 2;
-    }
+    if (!options.headless && !options.importFile) return runTrayApplication(argc, argv);
 
     // A file that does not read imports nothing, before anything is built.
     std::vector<ConnectionConfig> imported;
