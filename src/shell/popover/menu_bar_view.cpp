@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QGridLayout>
 #include <QMenu>
 #include <QProgressBar>
 #include <QScrollArea>
@@ -129,23 +130,26 @@ MenuBarView::MenuBarView(ConnectionsManager& manager, AppSettings& settings, Sta
     root->addLayout(buttons);
 
     root->addWidget(separator());
-    auto* footer = new QHBoxLayout;
+    // Two short lines: one would cut the entries' words.
+    auto* footer = new QGridLayout;
     footer->setSpacing(0);
-    footer->addWidget(flatButton(ui("History..."), "clock.arrow.circlepath", callbacks_.onViewHistory));
-    footer->addWidget(flatButton(ui("Log..."), "doc.text", callbacks_.onViewLog));
-    footer->addWidget(flatButton(ui("Settings..."), "gear", callbacks_.onSettings));
-    footer->addStretch();
-    footer->addWidget(flatButton(ui("About Tarnel"), "info.circle", callbacks_.onAbout));
-    footer->addWidget(flatButton(ui("Quit"), "xmark.circle", callbacks_.onQuit));
-    // Five entries share one line: small text, small icons, little padding.
-    for (int i = 0; i < footer->count(); ++i)
-        if (auto* button = qobject_cast<QToolButton*>(footer->itemAt(i)->widget())) {
-            auto font = button->font();
-            font.setPointSizeF(font.pointSizeF() * 0.8);
-            button->setFont(font);
-            button->setIconSize(QSize(12, 12));
-            button->setStyleSheet(QStringLiteral("QToolButton { padding: 1px 2px; }"));
-        }
+    const std::tuple<const char*, const char*, std::function<void()>&> entries[] = {
+        {"History...", "clock.arrow.circlepath", callbacks_.onViewHistory},
+        {"Log...", "doc.text", callbacks_.onViewLog},
+        {"Settings...", "gear", callbacks_.onSettings},
+        {"About Tarnel", "info.circle", callbacks_.onAbout},
+        {"Quit", "xmark.circle", callbacks_.onQuit},
+    };
+    int index = 0;
+    for (const auto& [label, icon, action] : entries) {
+        auto* button = flatButton(ui(label), icon, action);
+        auto font = button->font();
+        font.setPointSizeF(font.pointSizeF() * 0.85);
+        button->setFont(font);
+        button->setIconSize(QSize(13, 13));
+        footer->addWidget(button, index / 3, index % 3, Qt::AlignLeft);
+        ++index;
+    }
     root->addLayout(footer);
     refresh();
 }
