@@ -13,6 +13,11 @@ struct AppPaths {
     std::filesystem::path partialsFile;    // $XDG_DATA_HOME/Tarnel/partials.json
     std::filesystem::path knownHostsFile;  // $XDG_DATA_HOME/Tarnel/known_hosts
     std::filesystem::path logFile;         // $XDG_STATE_HOME/Tarnel/Tarnel.log
+    // One running fleet per set of stores: its lock and the socket later launches talk to, in
+    // $XDG_RUNTIME_DIR (or a private folder under the state folder when that is unset), named
+    // after the stores so that separate XDG setups never meet.
+    std::filesystem::path instanceLockFile;
+    std::filesystem::path instanceSocket;
 
     static AppPaths fromEnvironment();
 };

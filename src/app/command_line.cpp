@@ -10,6 +10,8 @@ CommandLine CommandLine::parse(int argc, char** argv) {
         std::string_view arg = argv[i];
         if (arg == "--headless") {
             c.headless = true;
+        } else if (arg == "--list") {
+            c.list = true;
         } else if (arg == "--help" || arg == "-h") {
             c.help = true;
         } else if (arg == "--import") {
@@ -29,19 +31,26 @@ CommandLine CommandLine::parse(int argc, char** argv) {
 }
 
 std::string CommandLine::helpText() {
-    return R"(Usage: tarnel [--headless] [--import FILE]
+    return R"(Usage: tarnel [--headless] [--import FILE] [--list]
 
 Tarnel watches FTP, FTPS and SFTP folders and pulls each file once its size has settled.
 
   --headless      Run every enabled connection without the tray icon, for servers and
-                  scripts. Log lines go to standard output as well as to the log file.
+                  scripts. Only one Tarnel runs on a set of stores: a second one says which
+                  process runs already and exits with status 2. Log lines go to standard output as well as to the log file.
                   SIGINT or SIGTERM stops the connections and exits with status 0; a transfer
                   under way resumes at the next start.
-  --import FILE   Add connections from FILE, a JSON array of connection records in the
-                  stored form. A record whose "id" is already known replaces that connection;
-                  any other is added. If any record cannot be read, nothing is imported, the
-                  record (by index) and the key at fault are named, and the exit status is 2.
-                  Without --headless, Tarnel exits after the import.
+  --import FILE   Add connections from FILE, a JSON array of connection records. A record
+                  needs only "transferProtocol" ("FTP", "FTPS" or "SFTP"), "host", "username",
+                  "password" or "sshKeyPath", "remotePath" and "localPath"; every key left out
+                  takes its default (a new "id", the protocol's port, ...), and the import says
+                  which. The stored form, with every key, imports as it stands. A record whose
+                  "id" is already known replaces that connection; any other is added. If any
+                  record cannot be read, nothing is imported, the record (by index, from 0)
+                  and the key at fault are named, and the exit status is 2. Without
+                  --headless, Tarnel exits after the import. While Tarnel runs on the same
+                  stores, the running one takes the records and answers.
+  --list          Print the stored connections and exit, starting nothing.
   --help          Show this text.
 
 Stores (set the XDG variables to keep a run apart):

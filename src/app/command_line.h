@@ -8,6 +8,7 @@ namespace tarnel {
 struct CommandLine {
     bool headless = false;
     bool help = false;
+    bool list = false;
     std::optional<std::string> importFile;
     std::optional<std::string> error;  // a word we do not know, or --import without a file
 

@@ -12,8 +12,12 @@
 #include "app/app_services.h"
 #include "app/command_line.h"
 #include "app/connection_import.h"
+#include "app/instance_channel.h"
+#include "app/instance_lock.h"
+#include "app/instance_requests.h"
 #include "app/tray_application.h"
 #include "connections/connection_config_json.h"
+#include "platform/qt/qt_settings_store.h"
 
 namespace {
 
@@ -47,13 +51,29 @@ int main(int argc, char** argv) {
         std::cout << CommandLine::helpText();
         return 0;
     }
-    if (!options.headless && !options.importFile) return runTrayApplication(argc, argv);
+    const auto paths = AppPaths::fromEnvironment();
+    if (options.list) {
+        try {
+            const QtSettingsStore store(paths.settingsFile);
+            const auto text = store.stringValue("tarnel_connections_v2");
+            std::cout << connectionListText(text ? decodeConnectionList(*text)
+                                                 : std::vector<ConnectionConfig>{});
+        } catch (const std::exception& e) {
+            std::cerr << "tarnel: the stored connections do not read: " << e.what() << "\n";
+            return 2;
+        }
+        return 0;
+    }
+    if (!options.headless && !options.importFile) return runTrayApplication(argc, argv, paths);
 
     // A file that does not read imports nothing, before anything is built.
-    std::vector<ConnectionConfig> imported;
+    ConnectionImport import;
+    const auto& imported = import.records;
     if (options.importFile) {
         try {
-            imported = readConnectionImport(*options.importFile);
+            import = readConnectionImport(*options.importFile);
+            if (const auto defaults = import.defaultsText(); !defaults.empty())
+                std::cout << defaults << "\n";
         } catch (const std::exception& e) {
             std::cerr << "tarnel: cannot import " << *options.importFile << ": " << e.what()
                       << "\nNothing was imported.\n";
@@ -63,6 +83,25 @@ int main(int argc, char** argv) {
 
     const int signals = blockStopSignals();
     QCoreApplication app(argc, argv);
+
+    // One fleet per set of stores: a later launch hands its import to the running one.
+    const InstanceLock lock(paths.instanceLockFile);
+    if (!lock.held()) {
+        bool importedThere = true;
+        if (options.importFile) {
+            const auto answer = InstanceChannel::send(paths.instanceSocket, InstanceRequestKind::import,
+                                                      encodeConnectionList(imported));
+            (answer.ok ? std::cout : std::cerr) << answer.text << "\n";
+            importedThere = answer.ok;
+        }
+        if (options.headless) {
+            const auto pid = lock.holder();
+            std::cerr << "tarnel: Tarnel is already running on these stores (process "
+                      << (pid ? std::to_string(*pid) : std::string("unknown")) << ")\n";
+            return 2;
+        }
+        return importedThere ? 0 : 2;
+    }
     std::function<void(const std::string&)> echo;
     if (options.headless) {
         echo = [](const std::string& line) {
@@ -70,7 +109,7 @@ int main(int argc, char** argv) {
             std::fflush(stdout);
         };
     }
-    AppServices services(AppPaths::fromEnvironment(), std::make_unique<SilentSoundPlayer>(),
+    AppServices services(paths, std::make_unique<SilentSoundPlayer>(),
                          std::move(echo));
 
     if (!options.headless) {
@@ -87,6 +126,11 @@ int main(int argc, char** argv) {
             "No enabled connection with a host to watch; add one with 'tarnel --import FILE' "
             "(see 'tarnel --help')",
             LogLevel::warning);
+
+    InstanceChannel channel(paths.instanceSocket);
+    channel.setHandler(InstanceRequestKind::import,
+                       [&](const std::string& payload) { return importRequest(services, payload); });
+    listenForLaterLaunches(channel, services.logService());
 
     QSocketNotifier stopNotifier(signals, QSocketNotifier::Read);
     QObject::connect(&stopNotifier, &QSocketNotifier::activated, &app, [&] {

@@ -135,6 +135,16 @@ CURLcode CurlTransferClient::perform(CURL* h) {
     return code;
 }
 
+CURLcode CurlTransferClient::perform(EasyHandlePool::Lease& lease) {
+    const CURLcode code = perform(lease.get());
+    if (code != CURLE_OK) {
+        // One refused CWD or a cut connection can leave the session where every later
+        // operation fails; a fresh login costs little beside that.
+        lease.discard();
+    }
+    return code;
+}
+
 CURL* CurlTransferClient::handleOf(const EasyHandlePool::Lease& lease) {
     if (!lease) {
         throw FTPError::curlExitCode(-1, "Failed to initialize libcurl");
@@ -143,7 +153,7 @@ CURL* CurlTransferClient::handleOf(const EasyHandlePool::Lease& lease) {
 }
 
 std::string CurlTransferClient::readText(const std::string& url, bool namesOnly, bool headersOnly) {
-    const auto lease = pool_.acquire();
+    auto lease = pool_.acquire();
     CURL* h = handleOf(lease);
     configureHandle(h, url);
     if (namesOnly) {
@@ -156,7 +166,7 @@ std::string CurlTransferClient::readText(const std::string& url, bool namesOnly,
     std::string text;
     curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, appendToData);
     curl_easy_setopt(h, CURLOPT_WRITEDATA, &text);
-    if (const CURLcode code = perform(h); code != CURLE_OK) {
+    if (const CURLcode code = perform(lease); code != CURLE_OK) {
         fail(code);
     }
     return isValidUtf8(text) ? text : std::string{};
@@ -176,7 +186,7 @@ std::string CurlTransferClient::listNames(const std::string& url) {
 
 void CurlTransferClient::download(const std::string& url, const std::filesystem::path& to,
                                   std::int64_t resumeFrom, const ProgressCallback& onProgress) {
-    const auto lease = pool_.acquire();
+    auto lease = pool_.acquire();
     CURL* h = handleOf(lease);
     configureHandle(h, url);
     // A fresh download truncates any older file here, before the server is contacted.
@@ -204,7 +214,7 @@ void CurlTransferClient::download(const std::string& url, const std::filesystem:
         curl_easy_setopt(h, CURLOPT_XFERINFODATA, &*context);
         curl_easy_setopt(h, CURLOPT_XFERINFOFUNCTION, reportProgress);
     }
-    if (const CURLcode code = perform(h); code != CURLE_OK) {
+    if (const CURLcode code = perform(lease); code != CURLE_OK) {
         // Only a first attempt leaves nothing behind; a resumed one keeps what it gained.
         if (resumeFrom == 0) {
             std::error_code ignored;
@@ -214,33 +224,62 @@ void CurlTransferClient::download(const std::string& url, const std::filesystem:
     }
 }
 
-void CurlTransferClient::runQuote(const std::string& command) {
-    const auto lease = pool_.acquire();
+void CurlTransferClient::removeItem(const std::string& folder, const std::string& item,
+                                    const char* ftpVerb, const char* sftpVerb) {
+    auto lease = pool_.acquire();
     CURL* h = handleOf(lease);
-    configureHandle(h, serverRootURL());
+    std::string command;
+    if (isFTPFamily(config_.transferProtocol)) {
+        configureHandle(h, config_.remoteURL(percentEncodedPath(folder)));
+        // A leading "*" would tell libcurl to ignore the command's failure.
+        command = std::string(ftpVerb) + " " + (item.starts_with('*') ? "./" + item : item);
+    } else {
+        configureHandle(h, serverRootURL());
+        std::string path = withLeadingSlash(folder);
+        if (!path.ends_with('/')) {
+            path += '/';
+        }
+        command = std::string(sftpVerb) + " " + quotedForSFTP(path + item);
+    }
     std::unique_ptr<curl_slist, void (*)(curl_slist*)> commands(
         curl_slist_append(nullptr, command.c_str()), curl_slist_free_all);
-    curl_easy_setopt(h, CURLOPT_QUOTE, commands.get());
-    // No CURLOPT_NOBODY: after the command libcurl goes on to list the root, and that is dropped.
+    // FTP: after libcurl's own CWDs into the folder; no body, so no listing follows.
+    curl_easy_setopt(h, isFTPFamily(config_.transferProtocol) ? CURLOPT_POSTQUOTE : CURLOPT_QUOTE,
+                     commands.get());
+    curl_easy_setopt(h, CURLOPT_NOBODY, 1L);
     curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, discardBytes);
-    if (const CURLcode code = perform(h); code != CURLE_OK) {
+    if (const CURLcode code = perform(lease); code != CURLE_OK) {
         fail(code);
     }
 }
 
+namespace {
+// "a/b/c" -> {"a/b", "c"}; "c" -> {"", "c"}.
+std::pair<std::string, std::string> splitLast(const std::string& path) {
+    std::string p = path;
+    while (p.size() > 1 && p.ends_with('/')) {
+        p.pop_back();
+    }
+    const auto slash = p.rfind('/');
+    if (slash == std::string::npos) {
+        return {"", p};
+    }
+    return {p.substr(0, slash), p.substr(slash + 1)};
+}
+}  // namespace
+
 void CurlTransferClient::removeDirectory(const std::string& path) {
-    const std::string p = withLeadingSlash(path);
-    runQuote(isFTPFamily(config_.transferProtocol) ? "RMD " + p : "rmdir " + quotedForSFTP(p));
+    const auto [folder, item] = splitLast(path);
+    removeItem(folder, item, "RMD", "rmdir");
 }
 
 void CurlTransferClient::removeFile(const std::string& name) {
-    std::string p = withLeadingSlash(config_.remotePath);
-    if (!p.ends_with('/')) {
-        p += '/';
+    const auto [below, item] = splitLast(name);
+    std::string folder = config_.remotePath;
+    if (!below.empty()) {
+        folder += (folder.ends_with('/') ? "" : "/") + below;
     }
-    p += name;
-    // FTP takes the rest of the line raw; libcurl splits an SFTP command at blanks.
-    runQuote(isFTPFamily(config_.transferProtocol) ? "DELE " + p : "rm " + quotedForSFTP(p));
+    removeItem(folder, item, "DELE", "rm");
 }
 
 void CurlTransferClient::probeConnection() {

@@ -39,10 +39,14 @@ public:
     // first attempt (offset 0) removes the local file; a failed resume keeps what it added.
     void download(const std::string& url, const std::filesystem::path& to, std::int64_t resumeFrom,
                   const ProgressCallback& onProgress);
-    // `path` is a full path from the server root.
+    // `path` is the folder's path as the listing named it: `remotePath` and the folders below.
     void removeDirectory(const std::string& path);
     // `name` is a path below `remotePath`.
     void removeFile(const std::string& name);
+    // Both address exactly what listing and download address. Over FTP a URL's path is relative
+    // to the login folder (libcurl changes into each of its folders from there, also on a reused
+    // session), so the command goes after libcurl has entered the item's folder and names the
+    // item alone. SFTP paths are absolute.
     // Reaches the server without logging in; a refused login counts as an answer. Always on a
     // new handle, so it proves the server is there now.
     void probeConnection();
@@ -62,11 +66,16 @@ public:
 private:
     void configureHandle(CURL* handle, const std::string& url);
     std::string readText(const std::string& url, bool namesOnly, bool headersOnly);
-    void runQuote(const std::string& command);
+    // Removes `item` of `folder` (a path below the server root as the URLs spell it) with the
+    // FTP command `ftpVerb` or the SFTP command `sftpVerb`.
+    void removeItem(const std::string& folder, const std::string& item, const char* ftpVerb,
+                    const char* sftpVerb);
     // The lease's handle; code -1 if libcurl could not make one.
     static CURL* handleOf(const EasyHandlePool::Lease& lease);
     // curl_easy_perform, counting the connections it opened.
     CURLcode perform(CURL* handle);
+    // The same on a pooled handle, which is not used again if its operation failed.
+    CURLcode perform(EasyHandlePool::Lease& lease);
     // Raises the FTPError users read for `code`.
     [[noreturn]] void fail(CURLcode code) const;
 

@@ -14,7 +14,12 @@ void closeHandles(const std::vector<CURL*>& handles) {
 }  // namespace
 
 EasyHandlePool::Lease::~Lease() {
-    if (handle_ != nullptr) {
+    if (handle_ == nullptr) {
+        return;
+    }
+    if (discarded_) {
+        curl_easy_cleanup(handle_);
+    } else {
         pool_->release(handle_);
     }
 }

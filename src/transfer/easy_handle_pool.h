@@ -28,16 +28,22 @@ public:
     public:
         Lease(EasyHandlePool* pool, CURL* handle) : pool_(pool), handle_(handle) {}
         Lease(Lease&& other) noexcept
-            : pool_(other.pool_), handle_(std::exchange(other.handle_, nullptr)) {}
+            : pool_(other.pool_),
+              handle_(std::exchange(other.handle_, nullptr)),
+              discarded_(other.discarded_) {}
         Lease& operator=(Lease&&) = delete;
         ~Lease();
 
         CURL* get() const { return handle_; }
         explicit operator bool() const { return handle_ != nullptr; }
+        // The operation failed: the handle is closed with its session when the lease ends, so
+        // the next operation logs in anew rather than riding a session in an unknown state.
+        void discard() { discarded_ = true; }
 
     private:
         EasyHandlePool* pool_;
         CURL* handle_;
+        bool discarded_ = false;
     };
 
     // `now` is the pool's sense of time (tests give a hand-moved one); the background closing

@@ -34,10 +34,15 @@ std::vector<FTPFileEntry> FTPService::listFiles() {
     const std::string url = config_.baseRemoteURL();
     auto entries = parseListing(client_->listDirectory(url), false);
     if (!entries.empty()) {
+        inFallbackRun_ = false;
         return entries;
     }
-    // An empty folder lands here too: it cannot be told apart from an unreadable listing.
-    log("LIST returned unparseable output, falling back to NLST", LogLevel::warning);
+    // An empty folder lands here too: it cannot be told apart from an unreadable listing. An
+    // emptied drop folder is the normal state in move mode, so the warning marks where such a
+    // run of polls begins, not each poll of it.
+    if (!inFallbackRun_.exchange(true)) {
+        log("LIST returned unparseable output, falling back to NLST", LogLevel::warning);
+    }
     const auto names = parseNameList(client_->listNames(url));
     if (names.empty()) {
         return {};
@@ -64,7 +69,7 @@ std::vector<FTPFileEntry> FTPService::entriesFromNames(const std::vector<std::st
 }
 
 std::vector<FTPFileEntry> FTPService::listFiles(const std::string& atPath) {
-    const std::string url = config_.remoteURL(atPath);
+    const std::string url = config_.remoteURL(percentEncodedPath(atPath));
     auto entries = parseListing(client_->listDirectory(url), true);
     if (!entries.empty()) {
         return entries;

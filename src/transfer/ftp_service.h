@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -35,7 +36,8 @@ public:
                std::unique_ptr<CurlTransferClient> client);
 
     // The files of `remotePath`. A listing no row of which can be read (also an empty one)
-    // falls back to a name list with one header request per name for the sizes.
+    // falls back to a name list with one header request per name for the sizes; the warning
+    // that says so is logged once per run of such listings.
     std::vector<FTPFileEntry> listFiles();
     // Files and folders of `atPath`; its name-list fallback has no sizes.
     std::vector<FTPFileEntry> listFiles(const std::string& atPath);
@@ -69,6 +71,7 @@ private:
     ConnectionConfig config_;
     LogService& logService_;
     std::unique_ptr<CurlTransferClient> client_;
+    std::atomic<bool> inFallbackRun_{false};  // the last listing of remotePath read no row
 };
 
 }  // namespace tarnel

@@ -141,6 +141,55 @@ TEST_F(TarnelProgramTest, OldFormsImportMigratedAndAKnownIdIsReplaced) {
     EXPECT_NE(wrong.err.find("unknown option: --frobnicate"), std::string::npos);
 }
 
+TEST_F(TarnelProgramTest, AHandWrittenRecordTakesDefaultsRunsAndIsListed) {
+    TestServer server({ServerProtocol::ftp, dir / "server"});
+    std::ofstream(server.root() / "invoice.pdf") << "pdf";
+    const auto config = server.connectionConfig();
+    const json record{
+        {"transferProtocol", "FTP"},
+        {"host", config.host},
+        {"port", config.port},
+        {"username", config.username},
+        {"password", config.password},
+        {"remotePath", config.remotePath},
+        {"localPath", (dir / "downloads").string()},
+        {"pollInterval", 1},
+        {"requiredStableChecks", 0},
+        {"fallbackBehavior", "useSpecificFolder"},
+        {"fallbackPath", (dir / "other").string()},
+        {"routingRules", json::array({{{"pattern", "*.pdf"},
+                                       {"destinationPath", (dir / "pdf").string()}}})},
+    };
+    auto imported = tarnel.run({"--import", writeImport(json::array({record})).string()});
+    ASSERT_EQ(imported.exitCode, 0) << imported.err;
+    EXPECT_NE(imported.out.find("record 0 took the defaults of: id, name, enabled, sshKeyPath, "),
+              std::string::npos)
+        << imported.out;
+    EXPECT_EQ(imported.out.find("pollInterval"), std::string::npos);
+    EXPECT_TRUE(fs::is_directory(dir / "pdf"));  // folders made and granted as the editor would
+    EXPECT_TRUE(fs::is_directory(dir / "other"));
+
+    auto listed = tarnel.run({"--list"});
+    EXPECT_EQ(listed.exitCode, 0);
+    EXPECT_EQ(listed.out, "New Connection  FTP  " + config.username + "@" + config.host + ":" +
+                              std::to_string(config.port) + "  " + config.remotePath + " → " +
+                              (dir / "downloads").string() + "  enabled\n");
+
+    tarnel.start({"--headless"});
+    ASSERT_TRUE(TarnelProcess::waitFor([&] { return fs::exists(dir / "pdf" / "invoice.pdf"); }))
+        << tarnel.logText();
+    tarnel.signal(SIGTERM);
+    EXPECT_EQ(tarnel.wait(), 0);
+
+    // What a person must say is still asked for, by index and key.
+    json noHost = record;
+    noHost.erase("host");
+    auto refused = tarnel.run({"--import", writeImport(json::array({record, noHost})).string()});
+    EXPECT_EQ(refused.exitCode, 2);
+    EXPECT_NE(refused.err.find(R"(record 1: key "host": missing)"), std::string::npos) << refused.err;
+    EXPECT_EQ(stored().size(), 1u);
+}
+
 TEST_F(TarnelProgramTest, KilledInTheMiddleOfADownloadItResumesFromTheTemporaryFile) {
     TestServer server({ServerProtocol::ftp, dir / "server"});
     const std::string content = pattern(6'000'000);

@@ -72,14 +72,20 @@ TEST_P(ServiceTest, listsAndWalksTheServersOwnOutput) {
     EXPECT_THROW(service.collectFiles("/missing", "", 0, 3, std::nullopt, walked), FTPError);
 }
 
-TEST_P(ServiceTest, anEmptyFolderFallsBackToANameListAndWarns) {
+TEST_P(ServiceTest, anEmptyFolderFallsBackToANameListAndWarnsOncePerRun) {
     auto service = makeService();
+    const std::string warning = "[Test " +
+                                std::string(protocolName(service.config().transferProtocol)) +
+                                "] LIST returned unparseable output, falling back to NLST";
     EXPECT_TRUE(service.listFiles().empty());
-    EXPECT_EQ(logged(),
-              (std::vector<std::string>{
-                  "[Test " + std::string(protocolName(service.config().transferProtocol)) +
-                  "] LIST returned unparseable output, falling "
-                  "back to NLST"}));
+    EXPECT_TRUE(service.listFiles().empty());
+    EXPECT_EQ(logged(), (std::vector<std::string>{warning}));
+    // A listing with rows ends the run; the next empty one begins another.
+    write(root / "x.txt", "x");
+    EXPECT_EQ(service.listFiles().size(), 1u);
+    fs::remove(root / "x.txt");
+    EXPECT_TRUE(service.listFiles().empty());
+    EXPECT_EQ(logged(), (std::vector<std::string>{warning, warning}));
 }
 
 TEST_P(ServiceTest, downloadsByNameOrByTheGivenURL) {

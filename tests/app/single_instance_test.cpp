@@ -1,0 +1,118 @@
+// One fleet per set of stores: later launches are refused or hand their import over.
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <fstream>
+#include <nlohmann/json.hpp>
+
+#include "connections/connection_config_json.h"
+#include "platform/qt/qt_settings_store.h"
+#include "servers/test_server.h"
+#include "tarnel_process.h"
+
+namespace tarnel::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+
+struct SingleInstanceTest : ::testing::Test {
+    fs::path dir = fs::temp_directory_path() / ("tarnel-instance-" + Uuid::random().toString());
+    TarnelProcess first{dir / "home"};
+    TarnelProcess later{dir / "home"};  // same stores
+
+    ~SingleInstanceTest() override {
+        std::error_code ignored;
+        fs::remove_all(dir, ignored);
+    }
+
+    fs::path writeImport(const std::string& name, const std::vector<ConnectionConfig>& records) {
+        fs::create_directories(dir);
+        auto file = dir / name;
+        std::ofstream(file) << encodeConnectionList(records);
+        return file;
+    }
+
+    std::vector<std::string> storedNames() {
+        QtSettingsStore store(first.settingsFile());
+        auto text = store.stringValue("tarnel_connections_v2");
+        std::vector<std::string> names;
+        if (text)
+            for (const auto& c : decodeConnectionList(*text)) names.push_back(c.name);
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    // Started headless on empty stores; waits until it is watching.
+    void startFirst() {
+        const auto starts = [&] {
+            std::string log = first.logText();
+            std::size_t n = 0;
+            for (auto at = log.find("No enabled connection"); at != std::string::npos;
+                 at = log.find("No enabled connection", at + 1))
+                ++n;
+            return n;
+        };
+        const auto before = starts();
+        first.start({"--headless"});
+        ASSERT_TRUE(TarnelProcess::waitFor([&] { return starts() > before; })) << first.logText();
+    }
+};
+
+TEST_F(SingleInstanceTest, ASecondHeadlessIsRefusedAndAnImportIsHandedToTheRunningOne) {
+    startFirst();
+    auto second = later.run({"--headless"});
+    EXPECT_EQ(second.exitCode, 2);
+    EXPECT_NE(second.err.find("Tarnel is already running on these stores (process "),
+              std::string::npos)
+        << second.err;
+
+    TestServer server({ServerProtocol::sftp, dir / "server"});
+    std::ofstream(server.root() / "report.pdf") << "contents";
+    auto shop = server.connectionConfig();
+    shop.name = "Shop";
+    shop.localPath = (dir / "downloads").string();
+    shop.pollInterval = 1;
+    shop.requiredStableChecks = 0;
+    auto imported = later.run({"--import", writeImport("shop.json", {shop}).string()});
+    EXPECT_EQ(imported.exitCode, 0) << imported.err;
+    EXPECT_NE(imported.out.find("Imported 1 connection(s): 1 added, 0 replaced"), std::string::npos)
+        << imported.out;
+    // The running fleet applies it at once: its engine fetches the file.
+    ASSERT_TRUE(TarnelProcess::waitFor([&] { return fs::exists(dir / "downloads" / "report.pdf"); }))
+        << first.logText();
+
+    // A later change saves the list again; both records survive it and a restart.
+    ConnectionConfig office;
+    office.name = "Office";
+    office.enabled = false;
+    auto again = later.run({"--import", writeImport("office.json", {office}).string()});
+    EXPECT_EQ(again.exitCode, 0) << again.err;
+    first.signal(SIGTERM);
+    EXPECT_EQ(first.wait(), 0);
+    EXPECT_EQ(storedNames(), (std::vector<std::string>{"Office", "Shop"}));
+
+    // With nothing running, the import is applied by the importing process itself.
+    shop.name = "Shop renamed";
+    auto offline = later.run({"--import", writeImport("shop2.json", {shop}).string()});
+    EXPECT_NE(offline.out.find("0 added, 1 replaced"), std::string::npos) << offline.err;
+    EXPECT_EQ(storedNames(), (std::vector<std::string>{"Office", "Shop renamed"}));
+}
+
+TEST_F(SingleInstanceTest, ALockLeftByAKilledInstanceDoesNotStopTheNextStart) {
+    startFirst();
+    first.signal(SIGKILL);
+    EXPECT_EQ(first.wait(), 128 + SIGKILL);
+
+    startFirst();  // not refused: it takes the lock over and serves
+    auto second = later.run({"--headless"});
+    EXPECT_EQ(second.exitCode, 2);
+    auto imported = later.run({"--import", writeImport("none.json", {}).string()});
+    EXPECT_EQ(imported.exitCode, 0) << imported.err;
+    EXPECT_NE(imported.out.find("Imported 0 connection(s)"), std::string::npos);
+    first.signal(SIGINT);
+    EXPECT_EQ(first.wait(), 0);
+}
+
+}  // namespace
+}  // namespace tarnel::testing
