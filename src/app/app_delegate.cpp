@@ -53,11 +53,9 @@ void AppDelegate::applicationDidFinishLaunching() {
     const bool trayExists = QSystemTrayIcon::isSystemTrayAvailable();
     makePopover(trayExists ? Popover::Kind::popup : Popover::Kind::window);
     if (!trayExists) popover_->showAt({});
-    QObject::connect(statusItem_.get(), &StatusIcon::trayAppeared, &context_, [this] {
-        const bool wasShown = popover_->isVisible();
-        makePopover(Popover::Kind::popup);
-        if (wasShown) showPopover();
-    });
+    // Once a tray appears the icon is the way in: the window gives way to the popup.
+    QObject::connect(statusItem_.get(), &StatusIcon::trayAppeared, &context_,
+                     [this] { makePopover(Popover::Kind::popup); });
 
     services_->manager().startAll();
 }

@@ -259,8 +259,9 @@ QWidget* MenuBarView::connectionRow(const ConnectionConfig& config) {
     top->addStretch();
     std::optional<EngineStatus> status;
     if (engine) status = EngineStatus{engine->connectionState()(), engine->statusText()()};
-    top->addWidget(elidedLabel(qs(connectionStatusWord(config, status)), 100));
-    top->itemAt(top->count() - 1)->widget()->setStyleSheet(QStringLiteral("color: #6e6e73;"));
+    auto* word = elidedLabel(qs(connectionStatusWord(config, status)), 100);
+    word->setStyleSheet(QStringLiteral("color: %1;").arg(toneColor(Tone::secondary).name()));
+    top->addWidget(word);
 
     auto mode = SyncIndicator::Mode::none;
     if (downloads > 0)
