@@ -100,10 +100,17 @@ void ConnectionsSettingsTab::rebuildList() {
     list_->clear();
     bool selectionFound = false;
     for (const auto& config : manager_.connections()()) {
-        auto* item = new QListWidgetItem(qs(config.name) + QStringLiteral("\n") +
-                                         QString::fromLatin1(protocolName(config.transferProtocol)));
+        auto* item = new QListWidgetItem;
         item->setData(idRole, qs(config.id.toString()));
         list_->addItem(item);
+        // The name over its protocol word, one entry to the eye.
+        auto* label = new QLabel(QStringLiteral("<b>%1</b><br><span style=\"color:%2\">%3</span>")
+                                     .arg(qs(config.name).toHtmlEscaped(),
+                                          QColor(0x6e, 0x6e, 0x73).name(),
+                                          QString::fromLatin1(protocolName(config.transferProtocol))));
+        label->setContentsMargins(6, 4, 6, 4);
+        item->setSizeHint(label->sizeHint());
+        list_->setItemWidget(item, label);
         if (selectedConnectionId_ == config.id) {
             list_->setCurrentItem(item);
             selectionFound = true;
