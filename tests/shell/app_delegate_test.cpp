@@ -12,8 +12,9 @@ namespace {
 
 AppPaths pathsIn(const QTemporaryDir& dir) {
     const std::filesystem::path root = dir.path().toStdString();
-    return {root / "Tarnel.conf", root / "autostart" / "tarnel.desktop", root / "history.json",
-            root / "partials.json", root / "known_hosts", root / "Tarnel.log"};
+    return {root / "Tarnel.conf",  root / "autostart" / "tarnel.desktop", root / "history.json",
+            root / "partials.json", root / "known_hosts", root / "Tarnel.log", root / "instance.lock",
+            root / "instance.socket"};
 }
 
 QToolButton* buttonLabelled(QWidget& parent, const QString& text) {
