@@ -279,7 +279,6 @@ QWidget* MenuBarView::connectionRow(const ConnectionConfig& config) {
     details->addLayout(iconTextLine("arrow.down.to.line",
                                     ui("Simultaneous downloads: ") + QString::number(config.maxConcurrentDownloads),
                                     Tone::secondary, true));
-    details->addSpacing(8);
     details->addLayout(iconTextLine("clock", ui("Sync every ") + qs(pollIntervalText(config.pollInterval)),
                                     Tone::secondary, true));
     lines->addLayout(details);
