@@ -37,6 +37,10 @@ public:
     ConnectionsManager& manager() { return *manager_; }
     LogService& logService() { return logService_; }
     AppSettings& settings() { return settings_; }
+    StatsService& statsService() { return statsService_; }
+    HistoryService& historyService() { return historyService_; }
+    SoundPlayer& soundPlayer() { return *soundPlayer_; }
+    const Clock& clock() const { return clock_; }
 
     // Stops the fleet and waits until the log, the history and the partial records are on disk.
     // Transfers under way are not waited for: their temporary files and records are what the

@@ -34,6 +34,7 @@ std::string CommandLine::helpText() {
     return R"(Usage: tarnel [--headless] [--import FILE] [--list]
 
 Tarnel watches FTP, FTPS and SFTP folders and pulls each file once its size has settled.
+With no option it starts its tray application; a second launch shows the running one's popup.
 
   --headless      Run every enabled connection without the tray icon, for servers and
                   scripts. Only one Tarnel runs on a set of stores: a second one says which

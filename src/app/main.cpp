@@ -1,4 +1,4 @@
-// tarnel: the headless runner and the connection import. The tray application joins later.
+// tarnel: the tray application, the headless runner and the connection import.
 #include <sys/signalfd.h>
 #include <unistd.h>
 
@@ -14,6 +14,8 @@
 #include "app/connection_import.h"
 #include "app/instance_channel.h"
 #include "app/instance_lock.h"
+#include "app/instance_requests.h"
+#include "app/tray_application.h"
 #include "connections/connection_config_json.h"
 #include "platform/qt/qt_settings_store.h"
 
@@ -62,10 +64,7 @@ int main(int argc, char** argv) {
         }
         return 0;
     }
-    if (!options.headless && !options.importFile) {
-        std::cerr << "tarnel: the tray application is not built yet; run 'tarnel --headless'\n";
-        return 2;
-    }
+    if (!options.headless && !options.importFile) return runTrayApplication(argc, argv, paths);
 
     // A file that does not read imports nothing, before anything is built.
     ConnectionImport import;
@@ -129,18 +128,9 @@ int main(int argc, char** argv) {
             LogLevel::warning);
 
     InstanceChannel channel(paths.instanceSocket);
-    channel.setHandler(InstanceRequestKind::import, [&](const std::string& payload) {
-        try {
-            const auto summary = importConnections(services.manager(), decodeConnectionList(payload));
-            services.logService().log(summary);
-            return InstanceAnswer{true, summary};
-        } catch (const std::exception& e) {
-            return InstanceAnswer{false, std::string("Nothing was imported: ") + e.what()};
-        }
-    });
-    if (std::string error; !channel.listen(error))
-        services.logService().log(error + "; later launches cannot reach this one",
-                                  LogLevel::warning);
+    channel.setHandler(InstanceRequestKind::import,
+                       [&](const std::string& payload) { return importRequest(services, payload); });
+    listenForLaterLaunches(channel, services.logService());
 
     QSocketNotifier stopNotifier(signals, QSocketNotifier::Read);
     QObject::connect(&stopNotifier, &QSocketNotifier::activated, &app, [&] {

@@ -1,0 +1,140 @@
+#include "app/app_delegate.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QScreen>
+
+#include "platform/qt/canberra_sound_player.h"
+#include "shell/settings/connections_settings_tab.h"
+#include "shell/tray/popup_placement.h"
+
+namespace tarnel {
+
+AppDelegate::AppDelegate(AppPaths paths) : paths_(std::move(paths)) {}
+
+AppDelegate::~AppDelegate() {
+    // Windows first: they read the services.
+    settingsWindow_.reset();
+    popover_.reset();
+    bridge_.reset();
+}
+
+void AppDelegate::applicationDidFinishLaunching() {
+    statusItem_ = std::make_unique<StatusIcon>(
+        TrayActions{
+            .open = [this] { showPopover(); },
+            .syncNow = [this] { services_->manager().syncAllNow(); },
+            .togglePause =
+                [this] {
+                    auto& manager = services_->manager();
+                    if (manager.aggregatePaused()())
+                        manager.resumeAll();
+                    else
+                        manager.pauseAll();
+                },
+            .settings = [this] { showSettings(SettingsTab::general); },
+            .quit = [] { QApplication::quit(); },
+        },
+        [this] { togglePopover(); });
+
+    services_ = std::make_unique<AppServices>(paths_, std::make_unique<CanberraSoundPlayer>());
+    bridge_ = std::make_unique<FleetBridge>(services_->manager(), services_->settings(),
+                                            services_->statsService(), services_->historyService());
+    QObject::connect(bridge_.get(), &FleetBridge::statusIconInputsChanged, &context_,
+                     [this](ConnectionState state, bool paused, bool downloading) {
+                         statusItem_->updateStatusIcon(state, paused, downloading);
+                     });
+    statusItem_->updateStatusIcon(services_->manager().aggregateState()(),
+                                  services_->manager().aggregatePaused()(),
+                                  services_->manager().aggregateDownloading()());
+
+    // With no tray to click, the popover's content is a small window of its own until a tray
+    // appears.
+    const bool trayExists = QSystemTrayIcon::isSystemTrayAvailable();
+    makePopover(trayExists ? Popover::Kind::popup : Popover::Kind::window);
+    if (!trayExists) popover_->showAt({});
+    // Once a tray appears the icon is the way in: the window gives way to the popup.
+    QObject::connect(statusItem_.get(), &StatusIcon::trayAppeared, &context_,
+                     [this] { makePopover(Popover::Kind::popup); });
+
+    services_->manager().startAll();
+}
+
+void AppDelegate::makePopover(Popover::Kind kind) {
+    auto& manager = services_->manager();
+    MenuBarCallbacks callbacks{
+        .onSettings = [this] { showSettings(SettingsTab::general); },
+        .onViewLog = {},      // the log, history and about windows are not built yet
+        .onViewHistory = {},
+        .onAbout = {},
+        .onQuit = [] { QApplication::quit(); },
+        .onAddConnection =
+            [this, &manager] {
+                const auto id = ConnectionsSettingsTab::addNewConnection(manager);
+                closePopover();
+                showSettings(SettingsTab::connections, id);
+            },
+        .onOpenConnection =
+            [this](const Uuid& id) {
+                closePopover();
+                showSettings(SettingsTab::connections, id);
+            },
+    };
+    auto* view = new MenuBarView(manager, services_->settings(), services_->statsService(),
+                                 services_->historyService(), services_->clock(), std::move(callbacks));
+    popover_ = std::make_unique<Popover>(kind, view);
+    QObject::connect(bridge_.get(), &FleetBridge::changed, view, [view, popover = popover_.get()] {
+        // Hidden, it is redrawn when it next opens.
+        if (popover->isVisible()) view->refresh();
+    });
+}
+
+void AppDelegate::togglePopover() {
+    if (popover_->isVisible())
+        closePopover();
+    else
+        showPopover();
+}
+
+void AppDelegate::showPopover() {
+    QPoint position;
+    if (popover_->kind() == Popover::Kind::popup) {
+        const QRect icon = statusItem_->geometry();
+        const QPoint pointer = QCursor::pos();
+        QScreen* screen = QGuiApplication::screenAt(icon.isEmpty() ? pointer : icon.center());
+        if (!screen) screen = QGuiApplication::primaryScreen();
+        position = popupPosition(icon, pointer, popover_->size(), screen->availableGeometry());
+    }
+    popover_->showAt(position);
+}
+
+void AppDelegate::closePopover() {
+    popover_->hide();
+}
+
+void AppDelegate::showSettings(SettingsTab tab, std::optional<Uuid> connectionId) {
+    closePopover();
+    std::optional<QPoint> origin;
+    if (settingsWindow_) {
+        origin = settingsWindow_->pos();
+        settingsWindow_->close();
+    }
+    settingsWindow_ = std::make_unique<SettingsWindow>(services_->manager(), services_->settings(),
+                                                       services_->soundPlayer(), tab, connectionId);
+    if (origin) {
+        settingsWindow_->move(*origin);
+    } else if (auto* screen = QGuiApplication::primaryScreen()) {
+        auto frame = settingsWindow_->frameGeometry();
+        frame.moveCenter(screen->availableGeometry().center());
+        settingsWindow_->move(frame.topLeft());
+    }
+    settingsWindow_->show();
+    settingsWindow_->raise();
+    settingsWindow_->activateWindow();
+}
+
+void AppDelegate::applicationWillTerminate() {
+    services_->shutdown();
+}
+
+}  // namespace tarnel

@@ -1,0 +1,48 @@
+#include "app/tray_application.h"
+
+#include <QApplication>
+#include <iostream>
+
+#include "app/app_delegate.h"
+#include "app/instance_channel.h"
+#include "app/instance_lock.h"
+#include "app/instance_requests.h"
+#include "shell/icons/shell_resources.h"
+#include "shell/icons/symbol_icon.h"
+
+namespace tarnel {
+
+int runTrayApplication(int argc, char** argv, const AppPaths& paths) {
+    QApplication app(argc, argv);
+    // One fleet per set of stores: a second launch shows the running one's popup.
+    const InstanceLock lock(paths.instanceLockFile);
+    if (!lock.held()) {
+        const auto answer = InstanceChannel::send(paths.instanceSocket, InstanceRequestKind::show, {});
+        if (!answer.ok) std::cerr << "tarnel: " << answer.text << "\n";
+        return answer.ok ? 0 : 2;
+    }
+
+    initShellResources();
+    // The program lives in the tray: closing its last window does not end it.
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(artworkIcon("tarnel"));
+    QApplication::setDesktopFileName(QStringLiteral("tarnel"));
+
+    AppDelegate delegate(paths);
+    QObject::connect(&app, &QCoreApplication::aboutToQuit, &app,
+                     [&delegate] { delegate.applicationWillTerminate(); });
+    delegate.applicationDidFinishLaunching();
+
+    InstanceChannel channel(paths.instanceSocket);
+    channel.setHandler(InstanceRequestKind::show, [&delegate](const std::string&) {
+        delegate.showPopover();
+        return InstanceAnswer{true, {}};
+    });
+    channel.setHandler(InstanceRequestKind::import, [&delegate](const std::string& payload) {
+        return importRequest(delegate.services(), payload);
+    });
+    listenForLaterLaunches(channel, delegate.services().logService());
+    return app.exec();
+}
+
+}  // namespace tarnel

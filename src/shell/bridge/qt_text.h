@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+#include <string>
+
+namespace tarnel {
+
+// A text the user reads, through the translation table with the English text as key.
+inline QString ui(const char* english) {
+    return QCoreApplication::translate("tarnel", english);
+}
+
+// A UTF-8 string of the core as Qt text.
+inline QString qs(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+}  // namespace tarnel

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QPixmap>
+#include <QTimer>
+#include <QWidget>
+
+namespace tarnel {
+
+// The small mark beside a connection: a download arrow while it downloads, arrows that turn
+// once a second while it syncs, nothing otherwise. Turns only while it is on screen.
+class SyncIndicator final : public QWidget {
+public:
+    enum class Mode { none, downloading, syncing };
+    explicit SyncIndicator(Mode mode);
+
+    Mode mode() const { return mode_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    Mode mode_;
+    QPixmap pixmap_;  // drawn once, turned at each frame
+    double rotation_ = 0;
+    QTimer frameClock_;
+};
+
+}  // namespace tarnel

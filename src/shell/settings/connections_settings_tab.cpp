@@ -1,0 +1,152 @@
+#include "shell/settings/connections_settings_tab.h"
+
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "shell/bridge/qt_text.h"
+#include "shell/icons/symbol_icon.h"
+
+namespace tarnel {
+
+namespace {
+
+constexpr int idRole = Qt::UserRole;
+
+bool askBeforeDelete(QWidget* parent, const QString& name) {
+    QMessageBox box(QMessageBox::Warning, ui("Delete this connection?"),
+                    ui("Delete '") + name + ui("'?"), QMessageBox::NoButton, parent);
+    box.setInformativeText(ui("This action cannot be undone."));
+    auto* remove = box.addButton(ui("Delete"), QMessageBox::DestructiveRole);
+    box.addButton(ui("Cancel"), QMessageBox::RejectRole);
+    box.exec();
+    return box.clickedButton() == remove;
+}
+
+QToolButton* smallButton(const char* icon) {
+    auto* button = new QToolButton;
+    button->setIcon(symbolIcon(icon));
+    button->setFixedSize(28, 28);
+    return button;
+}
+
+}  // namespace
+
+ConnectionsSettingsTab::ConnectionsSettingsTab(ConnectionsManager& manager,
+                                               std::optional<Uuid> initialConnectionId)
+    : manager_(manager),
+      list_(new QListWidget),
+      plus_(smallButton("plus")),
+      minus_(smallButton("minus")),
+      detail_(new QLabel) {
+    confirmDelete = [this](const QString& name) { return askBeforeDelete(this, name); };
+    auto* columns = new QHBoxLayout(this);
+    auto* left = new QVBoxLayout;
+    list_->setFixedWidth(200);
+    list_->setContextMenuPolicy(Qt::CustomContextMenu);
+    left->addWidget(list_, 1);
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(2);
+    buttons->addWidget(plus_);
+    buttons->addWidget(minus_);
+    buttons->addStretch();
+    left->addLayout(buttons);
+    columns->addLayout(left);
+    detail_->setAlignment(Qt::AlignCenter);
+    detail_->setWordWrap(true);
+    detail_->setTextFormat(Qt::PlainText);
+    columns->addWidget(detail_, 1);
+
+    connect(plus_, &QToolButton::clicked, this, [this] {
+        const auto id = addNewConnection(manager_);
+        select(id);
+    });
+    connect(minus_, &QToolButton::clicked, this, &ConnectionsSettingsTab::deleteSelected);
+    connect(list_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
+        if (!item) return;
+        selectedConnectionId_ = Uuid::parse(item->data(idRole).toString().toStdString());
+        showDetail();
+    });
+    connect(list_, &QListWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+        if (!list_->itemAt(at)) return;
+        QMenu menu;
+        connect(menu.addAction(ui("Delete")), &QAction::triggered, this,
+                &ConnectionsSettingsTab::deleteSelected);
+        menu.exec(list_->viewport()->mapToGlobal(at));
+    });
+
+    selectedConnectionId_ = initialConnectionId;
+    listWatch_ = manager_.connections().subscribe([this](const auto&) { rebuildList(); });
+}
+
+ConnectionsSettingsTab::~ConnectionsSettingsTab() = default;
+
+Uuid ConnectionsSettingsTab::addNewConnection(ConnectionsManager& manager) {
+    ConnectionConfig config;
+    config.enabled = false;
+    manager.addConnection(config);
+    return config.id;
+}
+
+void ConnectionsSettingsTab::select(const std::optional<Uuid>& id) {
+    selectedConnectionId_ = id;
+    rebuildList();
+}
+
+void ConnectionsSettingsTab::rebuildList() {
+    const QSignalBlocker quiet(list_);
+    list_->clear();
+    bool selectionFound = false;
+    for (const auto& config : manager_.connections()()) {
+        auto* item = new QListWidgetItem;
+        item->setData(idRole, qs(config.id.toString()));
+        list_->addItem(item);
+        // The name over its protocol word, one entry to the eye.
+        auto* label = new QLabel(QStringLiteral("<b>%1</b><br><span style=\"color:%2\">%3</span>")
+                                     .arg(qs(config.name).toHtmlEscaped(),
+                                          QColor(0x6e, 0x6e, 0x73).name(),
+                                          QString::fromLatin1(protocolName(config.transferProtocol))));
+        label->setContentsMargins(6, 4, 6, 4);
+        item->setSizeHint(label->sizeHint());
+        list_->setItemWidget(item, label);
+        if (selectedConnectionId_ == config.id) {
+            list_->setCurrentItem(item);
+            selectionFound = true;
+        }
+    }
+    if (!selectionFound) selectedConnectionId_.reset();
+    showDetail();
+}
+
+void ConnectionsSettingsTab::showDetail() {
+    const auto& list = manager_.connections()();
+    const auto found = std::find_if(list.begin(), list.end(), [this](const ConnectionConfig& c) {
+        return selectedConnectionId_ == c.id;
+    });
+    minus_->setEnabled(found != list.end());
+    if (found == list.end()) {
+        detail_->setText(ui("Select a connection or add a new one."));
+        return;
+    }
+    const auto& c = *found;
+    QString text = qs(c.name) + QStringLiteral("\n\n") + QString::fromLatin1(protocolName(c.transferProtocol));
+    if (!c.host.empty()) text += QStringLiteral("  ") + qs(c.host) + QStringLiteral(":") + QString::number(c.port);
+    if (!c.localPath.empty()) text += QStringLiteral("\n") + qs(c.remotePath) + QStringLiteral(" → ") + qs(c.localPath);
+    detail_->setText(text);
+}
+
+void ConnectionsSettingsTab::deleteSelected() {
+    if (!selectedConnectionId_) return;
+    const auto& list = manager_.connections()();
+    const auto found = std::find_if(list.begin(), list.end(), [this](const ConnectionConfig& c) {
+        return selectedConnectionId_ == c.id;
+    });
+    if (found == list.end() || !confirmDelete(qs(found->name))) return;
+    manager_.removeConnection(found->id);
+    const auto& rest = manager_.connections()();
+    select(rest.empty() ? std::nullopt : std::optional<Uuid>(rest.front().id));
+}
+
+}  // namespace tarnel

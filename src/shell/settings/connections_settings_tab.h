@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QLabel>
+#include <QListWidget>
+#include <QToolButton>
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+#include "fleet/connections_manager.h"
+
+namespace tarnel {
+
+// The list of connections at the left with "plus" and "minus" under it, and at the right what
+// the selected one is (or a word to select one).
+class ConnectionsSettingsTab final : public QWidget {
+public:
+    ConnectionsSettingsTab(ConnectionsManager& manager, std::optional<Uuid> initialConnectionId);
+    ~ConnectionsSettingsTab() override;
+
+    // A new record with its defaults, disabled until the user enables it, added to the list.
+    static Uuid addNewConnection(ConnectionsManager& manager);
+
+    std::optional<Uuid> selectedConnectionId() const { return selectedConnectionId_; }
+    void select(const std::optional<Uuid>& id);
+    // Asks before a delete; true deletes. Tests answer in place of the user.
+    std::function<bool(const QString& name)> confirmDelete;
+
+    QToolButton* plusButton() const { return plus_; }
+    QToolButton* minusButton() const { return minus_; }
+    QListWidget* list() const { return list_; }
+    QString detailText() const { return detail_->text(); }
+
+private:
+    void rebuildList();
+    void showDetail();
+    void deleteSelected();
+
+    ConnectionsManager& manager_;
+    std::optional<Uuid> selectedConnectionId_;
+    QListWidget* list_;
+    QToolButton* plus_;
+    QToolButton* minus_;
+    QLabel* detail_;
+    Subscription listWatch_;
+};
+
+}  // namespace tarnel

@@ -1,0 +1,19 @@
+#include "shell/tray/popup_placement.h"
+
+#include <algorithm>
+
+namespace tarnel {
+
+QPoint popupPosition(const QRect& icon, const QPoint& pointer, const QSize& size,
+                     const QRect& available) {
+    const QRect anchor = icon.isEmpty() ? QRect(pointer, QSize(1, 1)) : icon;
+    const bool opensDownward = anchor.center().y() < available.center().y();
+    int x = anchor.center().x() - size.width() / 2;
+    int y = opensDownward ? anchor.bottom() + 1 : anchor.top() - size.height();
+    // Wider or taller than the area: its top-left corner stays visible.
+    x = std::max(available.left(), std::min(x, available.right() + 1 - size.width()));
+    y = std::max(available.top(), std::min(y, available.bottom() + 1 - size.height()));
+    return {x, y};
+}
+
+}  // namespace tarnel
