@@ -185,9 +185,10 @@ Task<void> ConnectionEditView::runTest(ConnectionConfig copy) {
     const FleetServices services = manager_.services();
     std::optional<QString> failure;
     try {
-        co_await onWorker(runtime, [copy, services, alive, &loop = runtime.loop, this] {
+        // The job borrows the frame's locals: the frame waits, suspended, until the job is done.
+        co_await onWorker(runtime, [&copy, &services, &alive, &runtime, this] {
             auto service = temporaryService(copy, services);
-            return service->testConnectionSteps([alive, &loop, this](const auto& steps) {
+            return service->testConnectionSteps([alive, &loop = runtime.loop, this](const auto& steps) {
                 loop.post([alive, steps, this] {
                     if (!alive.expired()) steps_->showSteps(steps);
                 });
@@ -219,7 +220,7 @@ Task<void> ConnectionEditView::runBrowse(ConnectionConfig copy, std::string id) 
     std::vector<RemoteFolderNode> folders;
     std::optional<QString> failure;
     try {
-        folders = co_await onWorker(services.runtime, [copy, services, id] {
+        folders = co_await onWorker(services.runtime, [&copy, &services, &id] {
             auto service = temporaryService(copy, services);
             return listRemoteFolders(*service, id);
         });

@@ -12,13 +12,14 @@ namespace tarnel {
 
 TextStepper::TextStepper(std::function<QString(int)> format) : format_(std::move(format)) {
     lineEdit()->setReadOnly(true);
+    setMaximumWidth(320);
 }
 
 EditorForm::EditorForm(ConnectionConfig& config, QVBoxLayout* column, std::function<void()> edited)
     : config_(config), column_(column), edited_(std::move(edited)) {}
 
 QFormLayout* EditorForm::section(const QString& title) {
-    auto* box = new QGroupBox(title);
+    auto* box = new QGroupBox(QString(title).replace(QLatin1Char('&'), QStringLiteral("&&")));
     current_ = new QFormLayout(box);
     current_->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     current_->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -94,14 +95,15 @@ QWidget* EditorForm::withProblem(QWidget* field, Problem problem) {
     auto* holder = new QWidget;
     auto* line = new QHBoxLayout(holder);
     line->setContentsMargins(0, 0, 0, 0);
-    line->addWidget(field, 1);
+    // A field of limited width keeps it, with its sentence beside it.
+    line->addWidget(field, field->maximumWidth() < QWIDGETSIZE_MAX ? 0 : 1);
     auto* words = new QLabel;
     words->setTextFormat(Qt::PlainText);
     auto palette = words->palette();
     palette.setColor(QPalette::WindowText, QColor(0xc0, 0x30, 0x28));
     words->setPalette(palette);
     words->setObjectName(field->objectName() + QStringLiteral(" problem"));
-    line->addWidget(words);
+    line->addWidget(words, field->maximumWidth() < QWIDGETSIZE_MAX ? 1 : 0);
     onRefresh([this, words, problem = std::move(problem)] {
         const auto why = problem(config_);
         words->setText(why.value_or(QString()));

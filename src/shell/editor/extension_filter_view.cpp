@@ -67,7 +67,7 @@ ExtensionFilterView::ExtensionFilterView(EditorForm& form)
         int i = 0;
         for (const auto& entry : category.extensions) {
             auto* box = new QCheckBox(qs(entry));
-            box->setFixedWidth(columnWidth);
+            box->setMinimumWidth(columnWidth);
             entries_[entry] = box;
             grid->addWidget(box, i / columns, i % columns);
             ++i;

@@ -71,13 +71,19 @@ void TestStepsView::showSteps(const std::vector<FTPService::TestStep>& steps) {
         else
             icon->setPixmap(stateIcon(step.status, devicePixelRatioF()));
         line->addWidget(icon, 0, Qt::AlignTop);
-        QString text = qs(step.name);
-        if (step.detail) text += QStringLiteral("\n") + qs(*step.detail);
-        auto* words = new QLabel(text);
+        auto* words = new QLabel(qs(step.name));
         words->setTextFormat(Qt::PlainText);
-        words->setWordWrap(true);
         if (step.status == TestStepStatus::pending) words->setEnabled(false);
-        line->addWidget(words, 1);
+        line->addWidget(words);
+        if (step.detail) {
+            auto* detail = new QLabel(qs(*step.detail));
+            detail->setTextFormat(Qt::PlainText);
+            detail->setWordWrap(true);
+            detail->setEnabled(false);
+            line->addWidget(detail, 1);
+        } else {
+            line->addStretch(1);
+        }
         rows_->addWidget(row);
     }
     paintSpinners();
