@@ -92,11 +92,7 @@ TEST_F(EditorServerTest, AConnectionMadeInTheEditorIsTestedBrowsedAndFetchesTheC
     editor.control<QCheckBox>("Sync subfolders recursively")->click();
     editor.control<QCheckBox>("Enabled")->click();
     editor.choosePath = [this](PathPanel) { return std::optional(dir / "inbox"); };
-    for (auto* button : editor.findChildren<QPushButton*>())
-        if (button->text() == QStringLiteral("Choose...")) {
-            button->click();
-            break;
-        }
+    editor.control<QPushButton>("Choose local folder")->click();
     EXPECT_EQ(manager->connections()().front().host, "");  // nothing applied yet
     QTest::mouseClick(editor.applyButton(), Qt::LeftButton);
     const auto applied = manager->connections()().front();

@@ -8,10 +8,12 @@
 //   browse              "Browse..." pressed; answers when the tree is there
 //   pick A B ...        the folders A, B ... of the tree ticked
 //   filters             the extension filter scrolled to
-//   rules               a photo rule added and the rule sheet opened over a copy of it
+//   rules               three rules added, the last one never reached, and scrolled to
+//   sheet               the rule sheet opened over the first rule
 //   preset NAME         the sector NAME chosen, which asks first
 //   escape              the sheet or question on screen dismissed
 #include <QApplication>
+#include <QGroupBox>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
@@ -43,7 +45,10 @@ void answer(const std::string& word) {
     std::cout << word << std::endl;
 }
 
-void scrollTo(ConnectionEditView& editor, QWidget* widget) {
+// Brings `widget`, or the section that holds it with its title, to the top.
+void scrollTo(ConnectionEditView& editor, QWidget* widget, bool wholeSection = true) {
+    while (wholeSection && widget->parentWidget() && !qobject_cast<QGroupBox*>(widget))
+        widget = widget->parentWidget();
     auto* area = editor.scrollArea();
     const QPoint at = widget->mapTo(area->widget(), QPoint(0, 0));
     area->verticalScrollBar()->setValue(at.y() - 12);
@@ -95,16 +100,28 @@ int main(int argc, char** argv) {
             while (words >> id)
                 if (auto* row = editor().folderTree().row(id)) row->setCheckState(0, Qt::Checked);
         } else if (command == "filters") {
-            scrollTo(editor(), &editor().filterView());
+            scrollTo(editor(), &editor().filterView(), false);
         } else if (command == "rules") {
-            RoutingRule rule;
-            rule.matchType = RuleMatchType::fileType;
-            rule.matchValue = "jpg, cr3";
-            rule.destinationPath = "/home/studio/Photos";
-            rule.tagColor = FinderTagColor::blue;
-            rule.tagName = "Client shoot";
-            editor().editRoutingRule = [](const RoutingRule& r) { return std::optional(r); };
-            editor().ruleList().addRule();
+            RoutingRule photos;
+            photos.matchType = RuleMatchType::fileType;
+            photos.matchValue = "jpg, cr3";
+            photos.destinationPath = "/home/studio/Photos";
+            photos.tagColor = FinderTagColor::blue;
+            photos.tagName = "Client shoot";
+            RoutingRule everything;
+            everything.tagColor = FinderTagColor::green;
+            RoutingRule invoices;
+            invoices.matchType = RuleMatchType::nameStartsWith;
+            invoices.matchValue = "INV_";
+            invoices.destinationPath = "/home/studio/Invoices";
+            for (const auto& rule : {photos, everything, invoices}) {
+                editor().editRoutingRule = [rule](const RoutingRule&) { return std::optional(rule); };
+                editor().ruleList().addRule();
+            }
+            QApplication::processEvents();
+            scrollTo(editor(), &editor().ruleList());
+        } else if (command == "sheet") {
+            const auto rule = editor().config().routingRules.front();
             sheet = new RoutingRuleEditSheet(rule, {}, &window);
             sheet->setAttribute(Qt::WA_DeleteOnClose);
             sheet->show();

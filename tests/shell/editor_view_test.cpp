@@ -81,6 +81,13 @@ TEST_F(EditorViewTest, TheProtocolSetsItsPortAndItsOwnRowsAndABadPortIsSaidBesid
 
 TEST_F(EditorViewTest, ApplyNeedsHostAndFolderAndOnlyItReachesTheManager) {
     ConnectionEditView view(*manager, added("Studio"), false);
+    const auto warningShown = [&] {
+        for (auto* label : view.findChildren<QLabel*>())
+            if (label->text() == QStringLiteral("Re-select folder to grant persistent access"))
+                return label->isVisibleTo(&view);
+        return false;
+    };
+    EXPECT_TRUE(warningShown());  // a folder in the record, but no grant for it
     type(view.control<QLineEdit>("Host"), QStringLiteral("ftp.example.com"));
     EXPECT_EQ(manager->connections()()[0].host, "memory");  // a working copy until Apply
 
@@ -95,6 +102,16 @@ TEST_F(EditorViewTest, ApplyNeedsHostAndFolderAndOnlyItReachesTheManager) {
     type(view.control<QLineEdit>("Host"), QStringLiteral("ftp.example.com"));
     QTest::mouseClick(view.applyButton(), Qt::LeftButton);
     EXPECT_EQ(manager->connections()()[0].host, "ftp.example.com");
+
+    // A cancelled panel changes nothing; a chosen folder is granted at once.
+    auto* choose = view.control<QPushButton>("Choose local folder");
+    view.choosePath = [](PathPanel) { return std::optional<std::filesystem::path>(); };
+    choose->click();
+    EXPECT_EQ(view.config().localPath, manager->connections()()[0].localPath);
+    std::filesystem::create_directories(dir / "chosen");
+    view.choosePath = [this](PathPanel) { return std::optional(dir / "chosen"); };
+    QTest::mouseClick(choose, Qt::LeftButton);
+    EXPECT_FALSE(warningShown());
 }
 
 TEST_F(EditorViewTest, ANewConnectionStaysOffUntilEnabledAndAppliedAndAnotherSelectionDropsEdits) {
@@ -115,11 +132,7 @@ TEST_F(EditorViewTest, ANewConnectionStaysOffUntilEnabledAndAppliedAndAnotherSel
     std::filesystem::create_directories(dir / "fresh");
     editor.choosePath = [this](PathPanel) { return std::optional(dir / "fresh"); };
     // Choosing the folder records its grant at once.
-    for (auto* button : editor.findChildren<QPushButton*>())
-        if (button->text() == QStringLiteral("Choose...")) {
-            QTest::mouseClick(button, Qt::LeftButton);
-            break;
-        }
+    QTest::mouseClick(editor.control<QPushButton>("Choose local folder"), Qt::LeftButton);
     EXPECT_EQ(editor.config().localPath, (dir / "fresh").string());
     EXPECT_TRUE(manager->bookmarkManager().hasBookmark(fresh.id));
     QTest::mouseClick(editor.applyButton(), Qt::LeftButton);

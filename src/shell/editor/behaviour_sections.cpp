@@ -42,6 +42,7 @@ void ConnectionEditView::addRoutingSections() {
     path->setTextFormat(Qt::PlainText);
     line->addWidget(path, 1);
     auto* choose = new QPushButton(ui("Choose..."));
+    choose->setObjectName(QStringLiteral("Choose fallback folder"));
     choose->setAutoDefault(false);
     line->addWidget(choose);
     form.row({}, holder);

@@ -92,6 +92,7 @@ void ConnectionEditView::addFolderSections() {
     local->setTextFormat(Qt::PlainText);
     local->setObjectName(QStringLiteral("Local Folder"));
     auto* choose = buttonRow(form, {}, local, "Choose...");
+    choose->setObjectName(QStringLiteral("Choose local folder"));
     form.onRefresh([this, local] {
         local->setText(config_.localPath.empty() ? ui("Not selected") : qs(config_.localPath));
     });

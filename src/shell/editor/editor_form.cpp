@@ -96,14 +96,15 @@ QWidget* EditorForm::withProblem(QWidget* field, Problem problem) {
     auto* line = new QHBoxLayout(holder);
     line->setContentsMargins(0, 0, 0, 0);
     // A field of limited width keeps it, with its sentence beside it.
-    line->addWidget(field, field->maximumWidth() < QWIDGETSIZE_MAX ? 0 : 1);
+    const bool limited = field->maximumWidth() < QWIDGETSIZE_MAX;
+    line->addWidget(field, limited ? 0 : 1, limited ? Qt::AlignLeft : Qt::Alignment());
     auto* words = new QLabel;
     words->setTextFormat(Qt::PlainText);
     auto palette = words->palette();
     palette.setColor(QPalette::WindowText, QColor(0xc0, 0x30, 0x28));
     words->setPalette(palette);
     words->setObjectName(field->objectName() + QStringLiteral(" problem"));
-    line->addWidget(words, field->maximumWidth() < QWIDGETSIZE_MAX ? 1 : 0);
+    line->addWidget(words, limited ? 1 : 0);
     onRefresh([this, words, problem = std::move(problem)] {
         const auto why = problem(config_);
         words->setText(why.value_or(QString()));

@@ -134,6 +134,7 @@ QWidget* RoutingRuleList::makeRow(const RoutingRule& rule, int index,
     outer->setContentsMargins(4, 2, 4, 2);
     outer->setSpacing(0);
     auto* line = new QHBoxLayout;
+    line->setSpacing(8);
     line->addWidget(iconLabel("line.3.horizontal", QColor(0x9a, 0x9a, 0x9e), ratio));
     auto* mark = new QLabel;
     mark->setFixedSize(10, 10);

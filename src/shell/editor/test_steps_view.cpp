@@ -79,7 +79,8 @@ void TestStepsView::showSteps(const std::vector<FTPService::TestStep>& steps) {
             auto* detail = new QLabel(qs(*step.detail));
             detail->setTextFormat(Qt::PlainText);
             detail->setWordWrap(true);
-            detail->setEnabled(false);
+            // A failure's reason is the line to read; other details are asides.
+            detail->setEnabled(step.status == TestStepStatus::failure);
             line->addWidget(detail, 1);
         } else {
             line->addStretch(1);
