@@ -212,6 +212,25 @@ TEST_F(EditorViewTest, TheRuleSheetPreviewsTheFiveNames) {
     EXPECT_EQ(sheet.previewMarks(), std::vector<bool>({true, false, true, false, false}));
 }
 
+TEST_F(EditorViewTest, TheRuleSheetGrantsAChosenFolderAtOnceAndClearKeepsTheGrant) {
+    RoutingRuleEditSheet sheet(RoutingRule{}, [this](PathPanel) { return std::optional(dir / "jobs"); }, nullptr);
+    std::vector<std::filesystem::path> granted;
+    sheet.onRuleBookmarkSave = [&](const std::filesystem::path& url, const RoutingRule&) {
+        granted.push_back(url);
+    };
+    const auto button = [&](const char* text) {
+        for (auto* b : sheet.findChildren<QPushButton*>())
+            if (b->text() == QString::fromUtf8(text)) return b;
+        return static_cast<QPushButton*>(nullptr);
+    };
+    button("Choose...")->click();
+    EXPECT_EQ(granted, std::vector<std::filesystem::path>({dir / "jobs"}));
+    EXPECT_EQ(sheet.rule().destinationPath, (dir / "jobs").string());
+    button("Clear")->click();
+    EXPECT_FALSE(sheet.rule().destinationPath.has_value());
+    EXPECT_EQ(granted.size(), 1u);
+}
+
 TEST_F(EditorViewTest, ReorderingRulesChangesRoutingAndTheDeadRuleWarning) {
     auto config = connection("Studio", "memory");
     RoutingRule everything;

@@ -105,14 +105,14 @@ RoutingRuleEditSheet::RoutingRuleEditSheet(RoutingRule rule, ChoosePath choosePa
     destination->addWidget(clear);
     destination->addWidget(choose);
     connect(clear, &QPushButton::clicked, this, [this] {
+        // The grant stays stored; with no folder in the rule it is never used.
         rule_.destinationPath.reset();
-        chosenFolder_.reset();
         refresh();
     });
     connect(choose, &QPushButton::clicked, this, [this] {
         if (auto path = choosePath_(PathPanel::folder)) {
             rule_.destinationPath = path->string();
-            chosenFolder_ = *path;
+            if (onRuleBookmarkSave) onRuleBookmarkSave(*path, rule_);
             refresh();
         }
     });
@@ -149,10 +149,7 @@ RoutingRuleEditSheet::RoutingRuleEditSheet(RoutingRule rule, ChoosePath choosePa
     layout->addLayout(buttons);
     for (auto* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(save_, &QPushButton::clicked, this, [this] {
-        if (chosenFolder_ && onRuleBookmarkSave) onRuleBookmarkSave(*chosenFolder_, rule_);
-        accept();
-    });
+    connect(save_, &QPushButton::clicked, this, &QDialog::accept);
 
     value_->setText(qs(rule_.matchValue));
     tagName_->setText(qs(rule_.tagName.value_or("")));

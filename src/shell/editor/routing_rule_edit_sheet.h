@@ -27,7 +27,7 @@ public:
     // Whether the rule takes each preview name, as the marks show it.
     std::vector<bool> previewMarks() const;
 
-    // A folder was chosen for the rule: its grant is recorded when the sheet is saved.
+    // A folder was chosen for the rule: its grant is recorded at once, as for every folder.
     std::function<void(const std::filesystem::path&, const RoutingRule&)> onRuleBookmarkSave;
 
     QComboBox* typePicker() const { return type_; }
@@ -39,7 +39,6 @@ private:
 
     RoutingRule rule_;
     ChoosePath choosePath_;
-    std::optional<std::filesystem::path> chosenFolder_;
     QComboBox* type_;
     QLineEdit* value_;
     std::vector<QLabel*> previewIcons_;
