@@ -19,8 +19,8 @@ namespace {
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 
-struct EditorServerTest : EngineFixture {
-    TestServer server{ServerOptions{ServerProtocol::ftp, dir / "server"}};
+struct EditorServerTest : EngineFixture, ::testing::WithParamInterface<ServerProtocol> {
+    TestServer server{ServerOptions{GetParam(), dir / "server"}};
     // The program's own remote: libcurl against the real server.
     std::shared_ptr<ConnectionsManager> manager = std::make_shared<ConnectionsManager>(
         FleetServices{runtime, settingsStore, settings, logService, stats, history, notifications,
@@ -46,7 +46,7 @@ struct EditorServerTest : EngineFixture {
     }
 };
 
-TEST_F(EditorServerTest, AConnectionMadeInTheEditorIsTestedBrowsedAndFetchesTheChosenFolders) {
+TEST_P(EditorServerTest, AConnectionMadeInTheEditorIsTestedBrowsedAndFetchesTheChosenFolders) {
     serve("jobs/a.pdf");
     serve("shots/b.jpg");
     serve("other/c.txt");
@@ -56,6 +56,12 @@ TEST_F(EditorServerTest, AConnectionMadeInTheEditorIsTestedBrowsedAndFetchesTheC
     QTest::mouseClick(tab.plusButton(), Qt::LeftButton);
     auto& editor = *tab.editor();
     type(editor, "Name", "Agency");
+    const char* protocols[] = {"FTP", "FTPS", "SFTP"};
+    auto* protocol = editor.control<QComboBox>("Protocol");
+    const int index = protocol->findText(QString::fromLatin1(protocols[static_cast<int>(GetParam())]));
+    protocol->setCurrentIndex(index);
+    Q_EMIT protocol->activated(index);
+    if (GetParam() == ServerProtocol::ftps) editor.control<QCheckBox>("Allow self-signed certificates")->click();
     type(editor, "Host", "127.0.0.1");
     type(editor, "Port", std::to_string(server.port()));
     type(editor, "Username", server.user());
@@ -107,6 +113,39 @@ TEST_F(EditorServerTest, AConnectionMadeInTheEditorIsTestedBrowsedAndFetchesTheC
     EXPECT_TRUE(fs::exists(server.root() / "other" / "c.txt"));
     manager->stopAll();
 }
+
+TEST_P(EditorServerTest, DeeperFoldersLoadWhenOpenedAndAFailedBrowseKeepsTheTree) {
+    serve("clients/acme/a.pdf");
+    serve("clients/birch/b.pdf");
+    auto config = server.connectionConfig();
+    manager->addConnection(config);
+    auto editor = std::make_unique<ConnectionEditView>(*manager, config, false);
+    auto& tree = editor->folderTree();
+    editor->browse();
+    loop.runUntilIdle();
+    ASSERT_NE(tree.row("clients"), nullptr) << tree.stateText().toStdString();
+    EXPECT_EQ(tree.row("clients/acme"), nullptr);
+    tree.row("clients")->setExpanded(true);
+    loop.runUntilIdle();
+    ASSERT_NE(tree.row("clients/acme"), nullptr);
+    EXPECT_EQ(tree.row("clients/acme")->text(1).toStdString(), "1 file");
+
+    server.refuseLogins(true);
+    editor->browse();
+    loop.runUntilIdle();
+    EXPECT_TRUE(tree.stateText().startsWith(QStringLiteral("Error: "))) << tree.stateText().toStdString();
+    EXPECT_NE(tree.row("clients/birch"), nullptr);
+
+    // An editor closed while its test runs is not reached by the test's end.
+    server.refuseLogins(false);
+    editor->testConnection();
+    editor.reset();
+    loop.runUntilIdle();
+}
+
+INSTANTIATE_TEST_SUITE_P(Protocols, EditorServerTest,
+                         ::testing::Values(ServerProtocol::ftp, ServerProtocol::ftps, ServerProtocol::sftp),
+                         [](const auto& info) { return std::string(serverProtocolName(info.param)); });
 
 }  // namespace
 }  // namespace tarnel::testing

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QTest>
+#include <QToolButton>
+#include <algorithm>
 
 #include "connections/routing.h"
 #include "fleet_fixture.h"
@@ -170,6 +172,22 @@ TEST_F(EditorViewTest, LiveTextsFollowTheSizeAndThePattern) {
     EXPECT_EQ(preview->text(), QStringLiteral("memory-FC04456.jpg"));
     type(view.control<QLineEdit>("Host"), QStringLiteral("cam"));
     EXPECT_EQ(preview->text(), QStringLiteral("cam-FC04456.jpg"));
+}
+
+TEST_F(EditorViewTest, TheScheduleShowsItsDaysAndHoursOnlyWhileOn) {
+    ConnectionEditView view(*manager, added("Studio"), false);
+    auto* from = view.control<QSpinBox>("From");
+    EXPECT_FALSE(rowShown(from));
+    view.control<QCheckBox>("Sync only during scheduled hours")->click();
+    EXPECT_TRUE(rowShown(from));
+    from->setValue(24);
+    EXPECT_EQ(view.config().scheduleStartHour, 23);
+    EXPECT_EQ(from->text(), QStringLiteral("From 23:00"));
+    const auto days = view.findChildren<QToolButton*>();
+    const auto monday = std::find_if(days.begin(), days.end(), [](QToolButton* b) { return b->isCheckable() && b->isChecked(); });
+    ASSERT_NE(monday, days.end());
+    (*monday)->click();
+    EXPECT_EQ(view.config().scheduleDays, std::vector<bool>({false, true, true, true, true, true, true}));
 }
 
 TEST_F(EditorViewTest, APresetAsksFirstAndCancelPutsThePickerBack) {
