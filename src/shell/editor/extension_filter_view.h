@@ -30,7 +30,6 @@ public:
     QComboBox* presetPicker() const { return presets_; }
     QCheckBox* categoryBox(const std::string& categoryId) const { return heads_.at(categoryId); }
     QCheckBox* entryBox(const std::string& entry) const { return entries_.at(entry); }
-    QPushButton* resetButton() const { return reset_; }
 
 private:
     FilterStrings strings() const;

@@ -13,13 +13,6 @@ std::string serverPath(const ConnectionConfig& config, const std::string& id) {
     return base + id;
 }
 
-void collectIds(const std::vector<RemoteFolderNode>& nodes, std::vector<std::string>& into) {
-    for (const auto& node : nodes) {
-        into.push_back(node.id);
-        collectIds(node.children, into);
-    }
-}
-
 }  // namespace
 
 std::vector<RemoteFolderNode> listRemoteFolders(FTPService& service, const std::string& id) {
@@ -38,12 +31,6 @@ std::vector<RemoteFolderNode> listRemoteFolders(FTPService& service, const std::
         folders.push_back(std::move(node));
     }
     return folders;
-}
-
-std::vector<std::string> allFolderIds(const std::vector<RemoteFolderNode>& roots) {
-    std::vector<std::string> ids;
-    collectIds(roots, ids);
-    return ids;
 }
 
 }  // namespace tarnel

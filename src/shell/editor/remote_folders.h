@@ -23,7 +23,4 @@ struct RemoteFolderNode {
 // refuses its listing shows no files rather than hiding its siblings.
 std::vector<RemoteFolderNode> listRemoteFolders(FTPService& service, const std::string& id);
 
-// Every id of the tree, children included, depth first.
-std::vector<std::string> allFolderIds(const std::vector<RemoteFolderNode>& roots);
-
 }  // namespace tarnel

@@ -31,7 +31,6 @@ public:
     void removeRule(int index);
 
     QListWidget* list() const { return list_; }
-    QString emptyText() const { return empty_->isVisible() ? empty_->text() : QString(); }
     // The dead-rule warning shown on each row, empty where there is none.
     std::vector<QString> warnings() const;
 
