@@ -132,6 +132,8 @@ public:
     RuleFolders ruleDestinations(const Uuid& connectionId) const override;
     std::optional<std::filesystem::path> fallbackDestination(const Uuid& connectionId) const override;
     PartialDownloadTracker& partialTracker() { return *partialTracker_; }
+    // What the fleet was built from; the editor runs its own connection tests and browses on it.
+    const FleetServices& services() const { return services_; }
 
 private:
     void createEngine(const ConnectionConfig& config, bool startPaused);

@@ -5,8 +5,10 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "shell/bridge/qt_text.h"
+#include "shell/editor/connection_edit_view.h"
 #include "shell/icons/symbol_icon.h"
 
 namespace tarnel {
@@ -40,9 +42,10 @@ ConnectionsSettingsTab::ConnectionsSettingsTab(ConnectionsManager& manager,
       list_(new QListWidget),
       plus_(smallButton("plus")),
       minus_(smallButton("minus")),
-      detail_(new QLabel) {
+      detail_(new QLabel),
+      columns_(new QHBoxLayout(this)) {
     confirmDelete = [this](const QString& name) { return askBeforeDelete(this, name); };
-    auto* columns = new QHBoxLayout(this);
+    auto* columns = columns_;
     auto* left = new QVBoxLayout;
     list_->setFixedWidth(200);
     list_->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -61,6 +64,7 @@ ConnectionsSettingsTab::ConnectionsSettingsTab(ConnectionsManager& manager,
 
     connect(plus_, &QToolButton::clicked, this, [this] {
         const auto id = addNewConnection(manager_);
+        autoFocusNewConnection_ = true;
         select(id);
     });
     connect(minus_, &QToolButton::clicked, this, &ConnectionsSettingsTab::deleteSelected);
@@ -127,14 +131,19 @@ void ConnectionsSettingsTab::showDetail() {
     });
     minus_->setEnabled(found != list.end());
     if (found == list.end()) {
+        delete std::exchange(editor_, nullptr);
         detail_->setText(ui("Select a connection or add a new one."));
+        detail_->show();
         return;
     }
-    const auto& c = *found;
-    QString text = qs(c.name) + QStringLiteral("\n\n") + QString::fromLatin1(protocolName(c.transferProtocol));
-    if (!c.host.empty()) text += QStringLiteral("  ") + qs(c.host) + QStringLiteral(":") + QString::number(c.port);
-    if (!c.localPath.empty()) text += QStringLiteral("\n") + qs(c.remotePath) + QStringLiteral(" → ") + qs(c.localPath);
-    detail_->setText(text);
+    // The editor is made anew only when the selection changes: an apply, which changes the
+    // list, keeps it as it stands, and another selection drops what was not applied.
+    if (editor_ && editor_->config().id == found->id) return;
+    delete std::exchange(editor_, nullptr);
+    detail_->clear();
+    detail_->hide();
+    editor_ = new ConnectionEditView(manager_, *found, std::exchange(autoFocusNewConnection_, false));
+    columns_->addWidget(editor_, 1);
 }
 
 void ConnectionsSettingsTab::deleteSelected() {

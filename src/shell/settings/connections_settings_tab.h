@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QToolButton>
@@ -10,6 +11,8 @@
 #include "fleet/connections_manager.h"
 
 namespace tarnel {
+
+class ConnectionEditView;
 
 // The list of connections at the left with "plus" and "minus" under it, and at the right what
 // the selected one is (or a word to select one).
@@ -30,6 +33,8 @@ public:
     QToolButton* minusButton() const { return minus_; }
     QListWidget* list() const { return list_; }
     QString detailText() const { return detail_->text(); }
+    // The editor of the selected connection; none while nothing is selected.
+    ConnectionEditView* editor() const { return editor_; }
 
 private:
     void rebuildList();
@@ -42,6 +47,9 @@ private:
     QToolButton* plus_;
     QToolButton* minus_;
     QLabel* detail_;
+    QHBoxLayout* columns_;
+    ConnectionEditView* editor_ = nullptr;
+    bool autoFocusNewConnection_ = false;
     Subscription listWatch_;
 };
 
