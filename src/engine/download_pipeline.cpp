@@ -69,7 +69,8 @@ Task<std::vector<TransferResult>> SyncEngine::downloadStableFiles(std::vector<Tr
 std::string SyncEngine::remoteFileURL(const TrackedFile& file) const {
     if (file.relativePath.empty()) return config_.baseRemoteURL() + percentEncodedPath(file.name);
     const std::string full = stringByAppendingPathComponent(config_.remotePath, file.relativePath);
-    return config_.remoteURL(stringByDeletingLastPathComponent(full)) + percentEncodedPath(file.name);
+    return config_.remoteURL(percentEncodedPath(stringByDeletingLastPathComponent(full))) +
+           percentEncodedPath(file.name);
 }
 
 RemoteService::ProgressCallback SyncEngine::progressReporter(const Uuid& rowId,

@@ -1,6 +1,9 @@
 #include "records/log_service.h"
 
-#include <fstream>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <system_error>
 
 namespace tarnel {
@@ -24,6 +27,9 @@ LogService::LogService(MainLoop& loop, const Clock& clock, std::filesystem::path
     : loop_(loop), clock_(clock), logFile_(std::move(logFile)), rotateAtBytes_(rotateAtBytes) {
     std::error_code ignored;
     std::filesystem::create_directories(logFile_.parent_path(), ignored);
+    // The log names hosts, users and folders: for its owner's eyes, like the other stores.
+    std::filesystem::permissions(logFile_.parent_path(), std::filesystem::perms::owner_all,
+                                 std::filesystem::perm_options::replace, ignored);
 }
 
 std::string LogService::formattedLine(const LogEntry& entry) const {
@@ -49,8 +55,13 @@ void LogService::log(const std::string& message, LogLevel level) {
         std::error_code ec;
         if (const auto size = std::filesystem::file_size(logFile_, ec); !ec && size >= rotateAtBytes_)
             std::filesystem::rename(logFile_, std::filesystem::path(logFile_) += ".1", ec);
-        std::ofstream out(logFile_, std::ios::app | std::ios::binary);
-        if (out) out << line << '\n';
+        const std::string text = line + '\n';
+        if (const int fd = ::open(logFile_.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0600);
+            fd >= 0) {
+            ::fchmod(fd, 0600);  // a log an older version made stays readable by others otherwise
+            [[maybe_unused]] auto written = ::write(fd, text.data(), text.size());
+            ::close(fd);
+        }
         if (echo_) echo_(line);
     });
 }

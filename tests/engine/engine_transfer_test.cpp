@@ -113,7 +113,7 @@ TEST_F(EngineTransferFtpTest, TakenNamesGetNumbersAndFoldersFollowTheOrganisatio
     config.subdirectoryOrganization = SubdirectoryOrganization::customPerFolder;
     config.customFolderMappings = {{"/jobs/acme", (dir / "acme").string()}};
     serve("jobs/acme/a.pdf", "acme");
-    serve("jobs/other/b.pdf", "other");
+    serve("jobs/other work/b.pdf", "other");  // a folder name the URL must encode
     serve("report.pdf", "new report");
     fs::create_directories(dir / "inbox");
     std::ofstream(dir / "inbox" / "report.pdf") << "old";
@@ -122,7 +122,7 @@ TEST_F(EngineTransferFtpTest, TakenNamesGetNumbersAndFoldersFollowTheOrganisatio
     loop.advance(10s);
 
     EXPECT_EQ(readFile(dir / "acme" / "a.pdf"), "acme");              // the mapping, whole
-    EXPECT_EQ(readFile(dir / "inbox" / "jobs" / "other" / "b.pdf"), "other");  // mirrored
+    EXPECT_EQ(readFile(dir / "inbox" / "jobs" / "other work" / "b.pdf"), "other");  // mirrored
     EXPECT_EQ(readFile(dir / "inbox" / "report.pdf"), "old");           // never overwritten
     EXPECT_EQ(readFile(dir / "inbox" / "report (1).pdf"), "new report");
     EXPECT_TRUE(filesBelow(ftp->root()).empty());

@@ -30,19 +30,24 @@ TEST(LogService, MemoryKeepsTheLastHundredWhileTheFileKeepsEverything) {
     EXPECT_NE(text.find("] WARN [Shop] two\nlines\n"), std::string::npos);
 }
 
-TEST(LogService, ADeletedFileIsCreatedAgainByTheNextLine) {
+TEST(LogService, ADeletedFileIsCreatedAgainByTheNextLineForItsOwnerAlone) {
+    namespace fs = std::filesystem;
     TestDir dir("log-deleted");
+    fs::create_directories(dir / "state");
+    fs::permissions(dir / "state", fs::perms::all);
     VirtualLoop loop;
-    LogService log(loop, loop, dir / "Tarnel.log");
+    LogService log(loop, loop, dir / "state/Tarnel.log");
     log.log("[A] before");
     log.flush();
-    std::filesystem::remove(log.logFileURL());
+    EXPECT_EQ(fs::status(dir / "state").permissions(), fs::perms::owner_all);
+    fs::remove(log.logFileURL());
     log.clear();
     log.log("[A] after", LogLevel::error);
     loop.runUntilIdle();
     log.flush();
 
     EXPECT_EQ(readWholeFile(log.logFileURL()), "[2024-03-07 09:00:00] ERR [A] after\n");
+    EXPECT_EQ(fs::status(log.logFileURL()).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     ASSERT_EQ(log.entries().value().size(), 1u);
 }
 
