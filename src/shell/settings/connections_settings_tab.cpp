@@ -16,6 +16,22 @@ namespace tarnel {
 namespace {
 
 constexpr int idRole = Qt::UserRole;
+constexpr int nameRole = Qt::UserRole + 1;
+constexpr int protocolRole = Qt::UserRole + 2;
+
+// An entry's name over its protocol word, in the selection's text colour while it is selected,
+// where the grey protocol word would be unreadable on the highlight.
+void paintEntry(QListWidget* list, QListWidgetItem* item, bool selected) {
+    auto* label = item ? qobject_cast<QLabel*>(list->itemWidget(item)) : nullptr;
+    if (!label) return;
+    const auto& palette = list->palette();
+    const QColor primary = selected ? palette.color(QPalette::HighlightedText)
+                                    : palette.color(QPalette::Text);
+    const QColor secondary = selected ? primary : QColor(0x6e, 0x6e, 0x73);
+    label->setText(QStringLiteral("<b style=\"color:%1\">%2</b><br><span style=\"color:%3\">%4</span>")
+                       .arg(primary.name(), item->data(nameRole).toString().toHtmlEscaped(),
+                            secondary.name(), item->data(protocolRole).toString()));
+}
 
 bool askBeforeDelete(QWidget* parent, const QString& name) {
     QMessageBox box(QMessageBox::Warning, ui("Delete this connection?"),
@@ -68,7 +84,10 @@ ConnectionsSettingsTab::ConnectionsSettingsTab(ConnectionsManager& manager,
         select(id);
     });
     connect(minus_, &QToolButton::clicked, this, &ConnectionsSettingsTab::deleteSelected);
-    connect(list_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
+    connect(list_, &QListWidget::currentItemChanged, this,
+            [this](QListWidgetItem* item, QListWidgetItem* previous) {
+        paintEntry(list_, previous, false);
+        paintEntry(list_, item, true);
         if (!item) return;
         selectedConnectionId_ = Uuid::parse(item->data(idRole).toString().toStdString());
         showDetail();
@@ -107,15 +126,15 @@ void ConnectionsSettingsTab::rebuildList() {
         auto* item = new QListWidgetItem;
         item->setData(idRole, qs(config.id.toString()));
         list_->addItem(item);
-        // The name over its protocol word, one entry to the eye.
-        auto* label = new QLabel(QStringLiteral("<b>%1</b><br><span style=\"color:%2\">%3</span>")
-                                     .arg(qs(config.name).toHtmlEscaped(),
-                                          QColor(0x6e, 0x6e, 0x73).name(),
-                                          QString::fromLatin1(protocolName(config.transferProtocol))));
+        item->setData(nameRole, qs(config.name));
+        item->setData(protocolRole, QString::fromLatin1(protocolName(config.transferProtocol)));
+        auto* label = new QLabel;
         label->setContentsMargins(6, 4, 6, 4);
-        item->setSizeHint(label->sizeHint());
         list_->setItemWidget(item, label);
-        if (selectedConnectionId_ == config.id) {
+        const bool selected = selectedConnectionId_ == config.id;
+        paintEntry(list_, item, selected);
+        item->setSizeHint(label->sizeHint());
+        if (selected) {
             list_->setCurrentItem(item);
             selectionFound = true;
         }
