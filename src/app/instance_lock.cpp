@@ -4,6 +4,8 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <cstring>
 #include <fstream>
 #include <string>
 
@@ -19,7 +21,10 @@ InstanceLock::InstanceLock(std::filesystem::path file) : file_(std::move(file)) 
     }
     // Close-on-exec: a post-action launched by the fleet must not keep the lock alive.
     fd_ = ::open(file_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    if (fd_ < 0) return;
+    if (fd_ < 0) {
+        error_ = "cannot open the lock file " + file_.string() + ": " + std::strerror(errno);
+        return;
+    }
     if (::flock(fd_, LOCK_EX | LOCK_NB) != 0) return;
     held_ = true;
     const std::string pid = std::to_string(::getpid()) + "\n";

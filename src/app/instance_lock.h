@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 
 namespace tarnel {
 
@@ -20,6 +21,9 @@ public:
     InstanceLock& operator=(const InstanceLock&) = delete;
 
     bool held() const { return held_; }
+    // Why the lock file could not be opened at all, so that nobody can tell whether another
+    // instance runs; nothing when it could.
+    const std::optional<std::string>& error() const { return error_; }
     // The process that holds the lock when this one does not; nullopt if it cannot be read
     // (the holder is just starting, or the folder is not readable).
     std::optional<pid_t> holder() const;
@@ -28,6 +32,7 @@ private:
     std::filesystem::path file_;
     int fd_ = -1;
     bool held_ = false;
+    std::optional<std::string> error_;
 };
 
 }  // namespace tarnel

@@ -86,6 +86,10 @@ int main(int argc, char** argv) {
 
     // One fleet per set of stores: a later launch hands its import to the running one.
     const InstanceLock lock(paths.instanceLockFile);
+    if (lock.error()) {
+        std::cerr << "tarnel: " << *lock.error() << "\nCheck that the folder is yours and writable.\n";
+        return 2;
+    }
     if (!lock.held()) {
         bool importedThere = true;
         if (options.importFile) {

@@ -16,6 +16,10 @@ int runTrayApplication(int argc, char** argv, const AppPaths& paths) {
     QApplication app(argc, argv);
     // One fleet per set of stores: a second launch shows the running one's popup.
     const InstanceLock lock(paths.instanceLockFile);
+    if (lock.error()) {
+        std::cerr << "tarnel: " << *lock.error() << "\nCheck that the folder is yours and writable.\n";
+        return 2;
+    }
     if (!lock.held()) {
         const auto answer = InstanceChannel::send(paths.instanceSocket, InstanceRequestKind::show, {});
         if (!answer.ok) std::cerr << "tarnel: " << answer.text << "\n";

@@ -114,5 +114,15 @@ TEST_F(SingleInstanceTest, ALockLeftByAKilledInstanceDoesNotStopTheNextStart) {
     EXPECT_EQ(first.wait(), 0);
 }
 
+// A lock that cannot be made must not read as another instance running.
+TEST_F(SingleInstanceTest, ALockFileThatCannotBeMadeIsSaidSo) {
+    fs::create_directories(first.home() / "state/Tarnel");
+    std::ofstream(first.home() / "state/Tarnel/run") << "a file where the lock's folder goes";
+    auto refused = first.run({"--headless"});
+    EXPECT_EQ(refused.exitCode, 2);
+    EXPECT_NE(refused.err.find("cannot open the lock file"), std::string::npos) << refused.err;
+    EXPECT_EQ(refused.err.find("already running"), std::string::npos) << refused.err;
+}
+
 }  // namespace
 }  // namespace tarnel::testing
