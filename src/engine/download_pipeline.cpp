@@ -179,25 +179,6 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
             co_return result;
         }
 
-        // Placed in an earlier run that ended before its booking reached the disk: booked now,
-        // not fetched again.
-        if (auto record = partials.partial(key); record && !record->placedPath.empty()) {
-            partials.remove(key);
-            std::error_code ec;
-            const auto placedSize = fs::file_size(record->placedPath, ec);
-            if (!ec && record->expectedSize == file.size &&
-                static_cast<std::int64_t>(placedSize) == file.size) {
-                const fs::path placed = record->placedPath;
-                log("Placed before the last stop, booked now: " + key + " \u2192 " +
-                    placed.filename().string());
-                result.finalName = placed.filename().string();
-                result.destinationPath = placed.parent_path().string();
-                result.success = true;
-                recordTransfer(result);
-                co_return result;
-            }
-        }
-
         // Resume, when a temporary file of this very remote file is there and not yet whole.
         bool resume = false;
         std::int64_t offset = 0;
@@ -372,17 +353,54 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
 }
 
 void SyncEngine::recordTransfer(const TransferResult& r) {
-    const auto now = services_.runtime.clock.now();
     trackedFiles_.erase(r.trackingKey);
     retryState_.erase(r.trackingKey);
     downloadTracker_->markDownloaded(r.trackingKey, r.size);
     totalTransferred_.set(totalTransferred_() + 1);
     trackedFileCount_.set(static_cast<int>(trackedFiles_.size()));
     services_.statsService.recordDownload(r.size);
-    lastDownloadedFile_.set(DownloadedFileInfo{r.finalName, r.size, now});
-    services_.historyService.add({Uuid::random(), now, r.name, r.finalName, r.size, config_.host,
-                                  config_.remotePath, r.destinationPath, config_.name,
-                                  TransferStatus::success, std::nullopt});
+    lastDownloadedFile_.set(DownloadedFileInfo{r.finalName, r.size, services_.runtime.clock.now()});
+    addHistoryEntry(r);
+}
+
+void SyncEngine::addHistoryEntry(const TransferResult& r) {
+    services_.historyService.add({Uuid::random(), services_.runtime.clock.now(), r.name,
+                                  r.finalName, r.size, config_.host, config_.remotePath,
+                                  r.destinationPath, config_.name, TransferStatus::success,
+                                  std::nullopt});
+}
+
+// A run that ended between placing a file and its booking reaching the disk: the file is booked
+// now, not fetched again. The downloaded set and the counters are written together, the history
+// apart from them, so either may be missing.
+void SyncEngine::bookFilesPlacedByEarlierRun() {
+    for (const auto& record : services_.partialTracker.takePlacedByEarlierRun(config_.id.toString())) {
+        const fs::path placed = record.placedPath;
+        std::error_code ec;
+        const auto size = fs::file_size(placed, ec);
+        if (ec || static_cast<std::int64_t>(size) != record.expectedSize) continue;  // fetched anew
+        TransferResult r;
+        r.name = fs::path(record.remotePath).filename().string();
+        r.finalName = placed.filename().string();
+        r.size = record.expectedSize;
+        r.success = true;
+        r.destinationPath = placed.parent_path().string();
+        r.trackingKey = record.remotePath;
+        if (!downloadTracker_->isDownloaded(r.trackingKey, r.size)) {
+            recordTransfer(r);
+        } else {
+            const auto& entries = services_.historyService.entries()();
+            const bool inHistory = std::any_of(entries.begin(), entries.end(), [&](const auto& e) {
+                return e.status == TransferStatus::success && e.sizeBytes == r.size &&
+                       (fs::path(e.destinationPath) / e.finalFilename).lexically_normal() ==
+                           placed.lexically_normal();
+            });
+            if (inHistory) continue;
+            addHistoryEntry(r);
+        }
+        log("Placed before the last stop, booked now: " + record.remotePath + " \u2192 " +
+            r.finalName);
+    }
 }
 
 Task<void> SyncEngine::bookResults(const std::vector<TransferResult>& results) {

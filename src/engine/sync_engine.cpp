@@ -54,6 +54,7 @@ void SyncEngine::start() {
     dynamicSelectedPaths_ = config_.selectedRemotePaths;
     log("Started (interval: " + wholeSeconds(config_.pollInterval) +
         "s, protocol: " + protocolName(config_.transferProtocol) + ")");
+    bookFilesPlacedByEarlierRun();
     startTimer();
     installSleepObservers();
     connectionState_.set(ConnectionState::idle);

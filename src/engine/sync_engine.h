@@ -106,6 +106,8 @@ private:
     Task<std::vector<TransferResult>> downloadStableFiles(std::vector<TrackedFile> stable);
     // A placed file's records: downloaded set, counters, history. Written as soon as it is placed.
     void recordTransfer(const TransferResult& result);
+    void addHistoryEntry(const TransferResult& result);
+    void bookFilesPlacedByEarlierRun();
     // The batch's tail: failures and ignored files, then the notification, sound and post-action.
     Task<void> bookResults(const std::vector<TransferResult>& results);
     // The poll cycle proper; pollOnce turns anything it throws into a failed poll.

@@ -1,5 +1,7 @@
 #include "records/atomic_file.h"
 
+#include "platform/private_folder.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -14,9 +16,7 @@ namespace tarnel {
 bool replaceFileAtomically(const std::filesystem::path& file, std::string_view contents) {
     namespace fs = std::filesystem;
     std::error_code ec;
-    fs::create_directories(file.parent_path(), ec);
-    // The stores hold what is the user's alone: their folder too, also one an older version made.
-    fs::permissions(file.parent_path(), fs::perms::owner_all, fs::perm_options::replace, ec);
+    makePrivateFolder(file.parent_path());  // the stores hold what is the user's alone
     auto temporary = file;
     temporary += ".tmp";
     const int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);

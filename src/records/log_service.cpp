@@ -1,5 +1,7 @@
 #include "records/log_service.h"
 
+#include "platform/private_folder.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -25,11 +27,8 @@ const char* logLevelWord(LogLevel level) {
 LogService::LogService(MainLoop& loop, const Clock& clock, std::filesystem::path logFile,
                        std::uintmax_t rotateAtBytes)
     : loop_(loop), clock_(clock), logFile_(std::move(logFile)), rotateAtBytes_(rotateAtBytes) {
-    std::error_code ignored;
-    std::filesystem::create_directories(logFile_.parent_path(), ignored);
     // The log names hosts, users and folders: for its owner's eyes, like the other stores.
-    std::filesystem::permissions(logFile_.parent_path(), std::filesystem::perms::owner_all,
-                                 std::filesystem::perm_options::replace, ignored);
+    makePrivateFolder(logFile_.parent_path());
 }
 
 std::string LogService::formattedLine(const LogEntry& entry) const {

@@ -61,7 +61,11 @@ PartialDownloadTracker::PartialDownloadTracker(std::filesystem::path partialsFil
     : file_(std::move(partialsFile)),
       clock_(clock ? *clock : wallClock),
       partials_(load(file_)),
-      lastWrite_(clock_.now()) {}
+      lastWrite_(clock_.now()) {
+    for (const auto& [key, p] : partials_)
+        if (!p.placedPath.empty())
+            placedByEarlierRun_.insert(key);
+}
 
 PartialDownloadTracker::~PartialDownloadTracker() {
     flush();
@@ -117,6 +121,7 @@ void PartialDownloadTracker::changeAndWrite(Change change) {
 
 void PartialDownloadTracker::record(const PartialDownload& partial) {
     changeAndWrite([&] {
+        placedByEarlierRun_.erase(partial.remotePath);
         partials_.insert_or_assign(partial.remotePath, partial);
         return true;
     });
@@ -163,6 +168,27 @@ void PartialDownloadTracker::markPlaced(const std::string& remotePath,
         it->second.placedPath = placedPath;
         return true;
     });
+}
+
+std::vector<PartialDownload> PartialDownloadTracker::takePlacedByEarlierRun(
+    const std::string& connectionId) {
+    std::vector<PartialDownload> taken;
+    changeAndWrite([&] {
+        for (auto key = placedByEarlierRun_.begin(); key != placedByEarlierRun_.end();) {
+            auto it = partials_.find(*key);
+            if (it == partials_.end() || it->second.placedPath.empty()) {
+                key = placedByEarlierRun_.erase(key);
+            } else if (it->second.connectionId == connectionId) {
+                taken.push_back(std::move(it->second));
+                partials_.erase(it);
+                key = placedByEarlierRun_.erase(key);
+            } else {
+                ++key;
+            }
+        }
+        return !taken.empty();
+    });
+    return taken;
 }
 
 void PartialDownloadTracker::remove(const std::string& remotePath) {

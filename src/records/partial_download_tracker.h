@@ -60,6 +60,9 @@ public:
     void updateProgress(const std::string& remotePath, std::int64_t bytes);
     void incrementResumeAttempts(const std::string& remotePath);
     void markPlaced(const std::string& remotePath, const std::string& placedPath);
+    // Removes and returns the records of `connectionId` that an earlier run of the program had
+    // marked placed: that run may have ended before the files' bookings reached the disk.
+    std::vector<PartialDownload> takePlacedByEarlierRun(const std::string& connectionId);
     // Drops the record; the temporary file stays.
     void remove(const std::string& remotePath);
     // Drops the record and deletes its temporary file.
@@ -96,6 +99,7 @@ private:
     std::mutex writeMutex_;
     mutable std::mutex mutex_;
     std::map<std::string, PartialDownload> partials_;
+    std::set<std::string> placedByEarlierRun_;  // keys, as loaded
     struct Claims {
         std::mutex mutex;
         std::set<std::filesystem::path> paths;

@@ -259,32 +259,51 @@ TEST_F(EngineStateTest, RetryWaitsPastTheTwentiethAttemptAreToldWhole) {
 }
 
 // Copy mode: a placed file's record stays, marked placed, until its booking is surely on disk.
-// A run that ended in between books the file at the next start instead of fetching it again.
+// A run that ended in between books the file at the next start instead of fetching it again,
+// and writes the history entry that did not reach the disk even when the downloaded set did.
 TEST_F(EngineStateTest, AFilePlacedByARunThatDiedIsBookedNotFetchedAgain) {
     config.requiredStableChecks = 0;
     config.deleteAfterDownload = false;
-    server->files = {{"a.txt", "alpha"}, {"b.txt", "bravo"}, {"c.txt", "charlie"}};
+    server->files = {{"a.txt", "alpha"}, {"b.txt", "bravo"}, {"c.txt", "charlie"}, {"d.txt", "delta"}};
     fs::create_directories(dir / "inbox");
     std::ofstream(dir / "inbox" / "a.txt") << "alpha";
-    const auto then = loop.now();
-    partials.record({"a.txt", (dir / "inbox" / "a.txt.tarnel-partial").string(), 5, 5,
-                     config.id.toString(), then, then, 0, (dir / "inbox" / "a.txt").string()});
-    // One whose placed file has gone since is fetched as usual.
-    partials.record({"c.txt", (dir / "inbox" / "c.txt.tarnel-partial").string(), 7, 7,
-                     config.id.toString(), then, then, 0, (dir / "inbox" / "gone.txt").string()});
-    auto engine = makeEngine();
+    std::ofstream(dir / "inbox" / "d.txt") << "delta";
+    markDownloaded("d.txt", 5);
+    {
+        const auto then = loop.now();
+        PartialDownloadTracker earlierRun{dir / "earlier.json", &loop};
+        const auto placed = [&](const std::string& key, int size, const std::string& at) {
+            earlierRun.record({key, (dir / "inbox" / (key + ".tarnel-partial")).string(), size,
+                               size, config.id.toString(), then, then, 0, ""});
+            earlierRun.markPlaced(key, (dir / "inbox" / at).string());
+        };
+        placed("a.txt", 5, "a.txt");
+        placed("c.txt", 7, "gone.txt");  // its placed file has gone since: fetched as usual
+        placed("d.txt", 5, "d.txt");
+    }
+    PartialDownloadTracker reloaded{dir / "earlier.json", &loop};
+    auto engine = std::make_shared<SyncEngine>(
+        config, std::make_unique<MemoryRemote>(loop, server),
+        std::make_unique<DownloadTracker>(settingsStore, config.id.toString()),
+        EngineServices{runtime, logService, stats, history, settings, reloaded, notifications,
+                       sleepMonitor, soundPlayer});
     engine->start();
     loop.advance(30s);
     EXPECT_TRUE(hasLogLine("[Test] Placed before the last stop, booked now: a.txt \u2192 a.txt"));
+    EXPECT_TRUE(hasLogLine("[Test] Placed before the last stop, booked now: d.txt \u2192 d.txt"));
     EXPECT_FALSE(fs::exists(dir / "inbox" / "a (1).txt"));
+    EXPECT_FALSE(fs::exists(dir / "inbox" / "d (1).txt"));
     EXPECT_EQ(readFile(dir / "inbox" / "c.txt"), "charlie");
-    EXPECT_EQ(history.entries()().size(), 3u);
-    EXPECT_EQ(partials.partial("b.txt")->placedPath, (dir / "inbox" / "b.txt").string());
+    EXPECT_EQ(history.entries()().size(), 4u);
+    EXPECT_EQ(engine->totalTransferred()(), 3);  // d.txt was counted by the run that placed it
+    EXPECT_EQ(reloaded.partial("b.txt")->placedPath, (dir / "inbox" / "b.txt").string());
 
+    // Booked once: another start of the connection finds nothing left to book.
+    engine->start();
     loop.advance(30s);
-    for (const char* key : {"a.txt", "b.txt", "c.txt"}) EXPECT_FALSE(partials.partial(key)) << key;
-    EXPECT_EQ(history.entries()().size(), 3u);
-    EXPECT_EQ(engine->totalTransferred()(), 3);
+    for (const char* key : {"a.txt", "b.txt", "c.txt", "d.txt"})
+        EXPECT_FALSE(reloaded.partial(key)) << key;
+    EXPECT_EQ(history.entries()().size(), 4u);
 }
 
 }  // namespace

@@ -99,7 +99,7 @@ TEST_F(PartialDownloadTrackerTest, OrphansAndDiscard) {
 }
 
 // They hold what is the user's alone, also where an older version left them open to all.
-TEST_F(PartialDownloadTrackerTest, TheStoreIsReadableByItsOwnerAlone) {
+TEST_F(PartialDownloadTrackerTest, TheStoreIsReadableByItsOwnerAloneInAFolderOfItsOwn) {
     namespace fs = std::filesystem;
     fs::create_directories(file.parent_path());
     std::ofstream(file) << "[]";
@@ -108,6 +108,13 @@ TEST_F(PartialDownloadTrackerTest, TheStoreIsReadableByItsOwnerAlone) {
     PartialDownloadTracker(file, &clock).record(sample("a.zip"));
     EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
     EXPECT_EQ(fs::status(file.parent_path()).permissions(), fs::perms(0700));
+
+    // A shared folder, like /tmp, stays open to all.
+    const auto shared = file.parent_path() / "shared";
+    fs::create_directories(shared);
+    fs::permissions(shared, fs::perms(01777));
+    PartialDownloadTracker(shared / "partials.json", &clock).record(sample("a.zip"));
+    EXPECT_EQ(fs::status(shared).permissions(), fs::perms(01777));
 }
 
 }  // namespace

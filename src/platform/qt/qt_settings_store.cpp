@@ -1,5 +1,7 @@
 #include "platform/qt/qt_settings_store.h"
 
+#include "platform/private_folder.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -20,9 +22,7 @@ QtSettingsStore::QtSettingsStore(const std::filesystem::path& file)
     // The file holds passwords: readable by its owner alone, also when an older version made it
     // for all. QSettings replaces it keeping the mode it finds, so it is set once, here.
     namespace fs = std::filesystem;
-    std::error_code ec;
-    fs::create_directories(file.parent_path(), ec);
-    fs::permissions(file.parent_path(), fs::perms::owner_all, fs::perm_options::replace, ec);
+    makePrivateFolder(file.parent_path());
     const int fd = ::open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
     if (fd >= 0) {
         ::fchmod(fd, 0600);
