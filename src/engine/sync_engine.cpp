@@ -13,6 +13,7 @@
 #include "platform/sleep_monitor.h"
 #include "records/app_settings.h"
 #include "records/download_tracker.h"
+#include "records/history_service.h"
 #include "records/notification_service.h"
 #include "records/partial_download_tracker.h"
 
@@ -197,8 +198,12 @@ Task<void> SyncEngine::pollOnce() {
 }
 
 Task<void> SyncEngine::runPoll() {
-    for (const auto& key : placedRecords_) services_.partialTracker.remove(key);
-    placedRecords_.clear();
+    if (!placedRecords_.empty()) {
+        // Their history entries are written by now: the records that stood for them can go.
+        services_.historyService.flush();
+        for (const auto& key : placedRecords_) services_.partialTracker.remove(key);
+        placedRecords_.clear();
+    }
     if (auto error = checkLocalFolder()) {
         folderFailure(*error);
         co_return;
