@@ -60,6 +60,15 @@ public:
     void play(const std::string&) override {}
 };
 
+// CPU seconds, user and system, of this process (`who` RUSAGE_SELF) or of the peers it has
+// waited for (RUSAGE_CHILDREN).
+double cpuSeconds(int who = RUSAGE_SELF) {
+    rusage u{};
+    getrusage(who, &u);
+    return u.ru_utime.tv_sec + u.ru_utime.tv_usec / 1e6 + u.ru_stime.tv_sec +
+           u.ru_stime.tv_usec / 1e6;
+}
+
 double secondsSince(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
@@ -198,9 +207,12 @@ std::string rcloneRemote(const ConnectionConfig& c) {
            ",pass=" + obscured + ":";
 }
 
-void report(const std::string& who, double seconds, std::size_t files, std::uint64_t bytes) {
-    std::printf("  %-34s %8.2f s  %8.1f files/s  %8.1f MB/s\n", who.c_str(), seconds,
-                files / seconds, bytes / seconds / 1e6);
+// `cpu`: the contender's own CPU seconds, which a loaded machine stretches far less than the
+// wall-clock time.
+void report(const std::string& who, double seconds, std::size_t files, std::uint64_t bytes,
+            double cpu) {
+    std::printf("  %-34s %8.2f s  %8.1f files/s  %8.1f MB/s  %6.2f ms CPU/file\n", who.c_str(),
+                seconds, files / seconds, bytes / seconds / 1e6, files ? cpu * 1e3 / files : 0.0);
 }
 
 // A server's folder that the contenders empty, named three ways.
@@ -232,8 +244,9 @@ void smallFiles(const Drop& drop, int count, const fs::path& scratch) {
     prepare(target);
     auto config = engineConfig(drop.server, target);
     config.remotePath = drop.engineRemote;
+    double cpu = cpuSeconds();
     const double t = bench.pollOnce(config);
-    report("tarnel engine", t, countFiles(target), bytes);
+    report("tarnel engine", t, countFiles(target), bytes, cpuSeconds() - cpu);
 
     target = scratch / "lftp";
     prepare(target);
@@ -241,6 +254,7 @@ void smallFiles(const Drop& drop, int count, const fs::path& scratch) {
         "set sftp:auto-confirm yes; set sftp:connect-program 'ssh -a -x -o "
         "StrictHostKeyChecking=no -o UserKnownHostsFile=/dev/null';";
     auto start = Clock::now();
+    cpu = cpuSeconds(RUSAGE_CHILDREN);
     // lftp starts an SFTP session in "/", an FTP one in the login folder.
     const std::string lftpFolder = sftp                     ? drop.engineRemote
                                    : drop.belowLogin.empty() ? "."
@@ -248,14 +262,17 @@ void smallFiles(const Drop& drop, int count, const fs::path& scratch) {
     run({"lftp", "-c",
          sftpSetup + " open " + peerUrl(drop.server) + "; mirror -P4 --Remove-source-files '" +
              lftpFolder + "' " + target.string()});
-    report("lftp mirror -P4 --Remove-source-files", secondsSince(start), countFiles(target), bytes);
+    report("lftp mirror -P4 --Remove-source-files", secondsSince(start), countFiles(target), bytes,
+           cpuSeconds(RUSAGE_CHILDREN) - cpu);
 
     target = scratch / "rclone";
     prepare(target);
     start = Clock::now();
+    cpu = cpuSeconds(RUSAGE_CHILDREN);
     run({"rclone", "move", "--transfers", "4", rcloneRemote(drop.server) + drop.belowLogin,
          target.string()});
-    report("rclone move --transfers 4", secondsSince(start), countFiles(target), bytes);
+    report("rclone move --transfers 4", secondsSince(start), countFiles(target), bytes,
+           cpuSeconds(RUSAGE_CHILDREN) - cpu);
     fs::remove_all(scratch);
 }
 
@@ -313,14 +330,16 @@ int largeFile(ServerProtocol protocol, std::size_t mib) {
             out << block;
     }
     auto start = Clock::now();
+    double cpu = cpuSeconds(RUSAGE_CHILDREN);
     run({"curl", "-s", "-k", "-o", (bench.dir / "curl.bin").string(),
          peerUrl(server.connectionConfig()) + "file-0.bin"});
-    report("curl", secondsSince(start), 1, bytes);
+    report("curl", secondsSince(start), 1, bytes, cpuSeconds(RUSAGE_CHILDREN) - cpu);
     fs::remove(bench.dir / "curl.bin");
 
+    cpu = cpuSeconds();
     double t = bench.pollOnce(engineConfig(server.connectionConfig(), bench.dir / "tarnel"));
     report("tarnel engine (list, fetch, verify, move, delete)", t, countFiles(bench.dir / "tarnel"),
-           bytes);
+           bytes, cpuSeconds() - cpu);
     fs::remove_all(bench.dir);
     return 0;
 }
@@ -331,13 +350,6 @@ long residentKiB() {
         if (line.starts_with("VmRSS:"))
             return std::stol(line.substr(6));
     return -1;
-}
-
-double cpuSeconds() {
-    rusage u{};
-    getrusage(RUSAGE_SELF, &u);
-    return u.ru_utime.tv_sec + u.ru_utime.tv_usec / 1e6 + u.ru_stime.tv_sec +
-           u.ru_stime.tv_usec / 1e6;
 }
 
 int idleFleet(int connections, int seconds) {

@@ -112,38 +112,48 @@ std::string displayText(TransferStatus status) {
 }
 
 HistoryService::HistoryService(MainLoop& loop, std::filesystem::path historyFile)
-    : loop_(loop), file_(std::move(historyFile)), entries_(load(file_)) {}
+    : loop_(loop), file_(std::move(historyFile)), entries_(load(file_)) {
+    for (const auto& e : entries_.value())
+        encoded_.push_back(toJson(e).dump());
+}
 
 void HistoryService::add(HistoryEntry entry) {
     loop_.post([this, entry = std::move(entry)]() mutable {
-        auto list = entries_.value();
-        list.insert(list.begin(), std::move(entry));
-        if (list.size() > maxEntries)
-            list.resize(maxEntries);
-        entries_.set(std::move(list));
+        encoded_.push_front(toJson(entry).dump());
+        if (encoded_.size() > maxEntries)
+            encoded_.pop_back();
+        entries_.update([&](std::vector<HistoryEntry>& list) {
+            list.insert(list.begin(), std::move(entry));
+            if (list.size() > maxEntries)
+                list.pop_back();
+        });
         save();
     });
 }
 
 void HistoryService::clear() {
     loop_.post([this] {
+        encoded_.clear();
         entries_.set({});
         save();
     });
 }
 
 void HistoryService::save() {
-    // Each write carries its own snapshot and is encoded on the writer. A snapshot that a newer
-    // one already follows in the queue is skipped: a burst of entries costs one write, not one
-    // per entry.
+    // Each entry is encoded once, when it comes: a file that arrives costs the joining of the
+    // list, not its encoding. A text that a newer one already follows in the queue is skipped.
+    std::string text = "[";
+    for (const auto& e : encoded_) {
+        if (text.size() > 1)
+            text += ',';
+        text += e;
+    }
+    text += ']';
     const auto generation = ++savedGeneration_;
-    queue_.async([this, generation, snapshot = entries_.value()] {
+    queue_.async([this, generation, text = std::move(text)] {
         if (generation != savedGeneration_.load())
             return;
-        auto array = nlohmann::json::array();
-        for (const auto& e : snapshot)
-            array.push_back(toJson(e));
-        replaceFileAtomically(file_, array.dump());
+        replaceFileAtomically(file_, text);
     });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <deque>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -71,6 +72,7 @@ private:
     MainLoop& loop_;
     std::filesystem::path file_;
     Observable<std::vector<HistoryEntry>> entries_;
+    std::deque<std::string> encoded_;  // the entries' JSON, in the same order
     std::atomic<std::uint64_t> savedGeneration_{0};
     SerialQueue queue_;  // last: its thread stops before the members its jobs use go
 };
