@@ -25,13 +25,15 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 if(PROJECT_HOMEPAGE_URL)
     set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${PROJECT_HOMEPAGE_URL})
 endif()
-# The libraries the program links come from dpkg-shlibdeps. What it loads at run time is named
-# here: Qt's platform plugins (the X11 one; the Wayland one where the desktop runs Wayland), the
-# sound server's backend for libcanberra, and xdg-open and gio for the post-download actions that
-# open a document or start an application.
+# The libraries the program links come from dpkg-shlibdeps. What it loads or starts at run time
+# is named here: Qt's platform plugins (the X11 one; the Wayland one where the desktop runs
+# Wayland), xdg-open and gio for the post-download actions that open a document or start an
+# application, and libcanberra's PulseAudio backend, which desktops with a sound server have
+# already (its own ALSA backend plays without one).
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, libcanberra-pulse, xdg-utils, libglib2.0-bin")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils, libglib2.0-bin")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "libcanberra-pulse")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 include(CPack)
