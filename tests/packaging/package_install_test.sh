@@ -67,10 +67,9 @@ files=$(grep -v -x -E "$fixed_size_icon" <<<"$all_files" | sort)
 $all_files"
 grep -q -x -F ./usr/share/icons/hicolor/48x48/apps/tarnel.png <<<"$all_files" || fail "no 48x48 icon in:
 $all_files"
-[ "$(dpkg-deb -f "$deb" Package)" = tarnel ] || fail "package name $(dpkg-deb -f "$deb" Package)"
-[ "$(dpkg-deb -f "$deb" Version)" = "$version" ] || fail "package version $(dpkg-deb -f "$deb" Version)"
+# What dpkg-shlibdeps found, and what the program loads that it cannot see.
 depends=$(dpkg-deb -f "$deb" Depends)
-for needed in libqt6widgets6 libqt6svg6 libcurl4 qt6-qpa-plugins; do
+for needed in libqt6widgets6 qt6-qpa-plugins; do
     grep -q "\b$needed\b" <<<"$depends" || fail "Depends lacks $needed: $depends"
 done
 
@@ -106,8 +105,8 @@ verify=$(systemd-analyze verify "$unit" 2>&1) || fail "systemd-analyze verify: $
 # Enabling reads the unit's [Install] section; done in a copy of the package's files, not on
 # this machine.
 dpkg-deb -x "$deb" "$work/root"
-systemctl --root="$work/root" --global enable tarnel-headless.service >/dev/null 2>&1 ||
-    fail "systemctl enable: $(systemctl --root="$work/root" --global enable tarnel-headless.service 2>&1)"
+enable=$(systemctl --root="$work/root" --global enable tarnel-headless.service 2>&1) ||
+    fail "systemctl enable: $enable"
 [ -L "$work/root/etc/systemd/user/default.target.wants/tarnel-headless.service" ] ||
     fail "enabling does not start the unit with the user's session"
 
