@@ -33,7 +33,7 @@ std::optional<Banner> bannerFor(const BannerInputs& in) {
 std::string connectionStatusWord(const ConnectionConfig& config,
                                  const std::optional<EngineStatus>& engine) {
     if (!config.enabled) return localized("Disabled");
-    if (!engine) return localized(config.autoConnectOnLaunch ? "Stopped" : "Manual");
+    if (!engine) return config.autoConnectOnLaunch ? localized("Stopped") : localized("Manual");
     if (engine->state == ConnectionState::connected || engine->state == ConnectionState::syncing)
         return localized("Connected");
     return engine->statusText;
