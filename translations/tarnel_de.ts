@@ -256,6 +256,10 @@
             <translation type="unfinished" />
         </message>
         <message>
+            <source>Cellular</source>
+            <translation>Mobilfunk</translation>
+        </message>
+        <message>
             <source>Choose...</source>
             <translation>Auswählen...</translation>
         </message>
@@ -700,6 +704,10 @@
             <translation>Benachrichtigen, wenn Downloads fertig sind</translation>
         </message>
         <message>
+            <source>Offline</source>
+            <translation>Offline</translation>
+        </message>
+        <message>
             <source>Only if </source>
             <translation>Nur bei mindestens </translation>
         </message>
@@ -781,7 +789,7 @@
         </message>
         <message>
             <source>Pause when on mobile hotspot</source>
-            <translation>Im mobilen Hotspot pausieren</translation>
+            <translation>Bei mobilem Hotspot pausieren</translation>
         </message>
         <message>
             <source>Paused</source>
@@ -989,7 +997,7 @@
         </message>
         <message>
             <source>Simultaneous downloads: </source>
-            <translation>Gleichzeitige Downloads: </translation>
+            <translation>Parallele Downloads: </translation>
         </message>
         <message>
             <source>Size mismatch: expected </source>
@@ -1037,7 +1045,7 @@
         </message>
         <message>
             <source>Sync every </source>
-            <translation>Abgleich alle </translation>
+            <translation>Alle </translation>
         </message>
         <message>
             <source>Sync only during scheduled hours</source>

@@ -256,6 +256,10 @@
             <translation type="unfinished" />
         </message>
         <message>
+            <source>Cellular</source>
+            <translation>Red móvil</translation>
+        </message>
+        <message>
             <source>Choose...</source>
             <translation>Elegir...</translation>
         </message>
@@ -700,6 +704,10 @@
             <translation>Avisar al terminar las descargas</translation>
         </message>
         <message>
+            <source>Offline</source>
+            <translation>Sin conexión</translation>
+        </message>
+        <message>
             <source>Only if </source>
             <translation>Solo si hay </translation>
         </message>
@@ -1037,7 +1045,7 @@
         </message>
         <message>
             <source>Sync every </source>
-            <translation>Sincroniza cada </translation>
+            <translation>Cada </translation>
         </message>
         <message>
             <source>Sync only during scheduled hours</source>

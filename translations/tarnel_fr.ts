@@ -256,6 +256,10 @@
             <translation type="unfinished" />
         </message>
         <message>
+            <source>Cellular</source>
+            <translation>Réseau mobile</translation>
+        </message>
+        <message>
             <source>Choose...</source>
             <translation>Choisir...</translation>
         </message>
@@ -700,6 +704,10 @@
             <translation>Notifier à la fin des téléchargements</translation>
         </message>
         <message>
+            <source>Offline</source>
+            <translation>Hors ligne</translation>
+        </message>
+        <message>
             <source>Only if </source>
             <translation>Seulement à partir de </translation>
         </message>
@@ -989,7 +997,7 @@
         </message>
         <message>
             <source>Simultaneous downloads: </source>
-            <translation>Téléchargements simultanés : </translation>
+            <translation>Transferts simultanés : </translation>
         </message>
         <message>
             <source>Size mismatch: expected </source>
@@ -1037,7 +1045,7 @@
         </message>
         <message>
             <source>Sync every </source>
-            <translation>Synchronisation toutes les </translation>
+            <translation>Toutes les </translation>
         </message>
         <message>
             <source>Sync only during scheduled hours</source>

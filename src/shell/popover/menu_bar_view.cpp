@@ -409,7 +409,7 @@ void MenuBarView::refreshDiskAndNetwork() {
     diskAndNetwork_->addLayout(iconTextLine(free < 5.0 ? "externaldrive.badge.exclamationmark" : "externaldrive",
                                             QString::fromLatin1(figure) + ui(" GB free"), diskTone(free), true));
     const auto& network = manager_.networkType()();
-    diskAndNetwork_->addLayout(iconTextLine(networkIconName(network), qs(network), Tone::secondary, true));
+    diskAndNetwork_->addLayout(iconTextLine(networkIconName(network), qs(networkText(network)), Tone::secondary, true));
 }
 
 void MenuBarView::refreshButtons() {

@@ -73,6 +73,13 @@ Tone diskTone(double freeGB) {
     return Tone::secondary;
 }
 
+std::string networkText(const std::string& networkType) {
+    if (networkType == "Cellular") return localized("Cellular");
+    if (networkType == "Offline") return localized("Offline");
+    if (networkType == "Connected") return localized("Connected");
+    return networkType;
+}
+
 const char* networkIconName(const std::string& networkType) {
     if (networkType == "Wi-Fi") return "wifi";
     if (networkType == "Ethernet") return "cable.connector";
