@@ -953,7 +953,7 @@
         </message>
         <message>
             <source>Save Rule</source>
-            <translation>Regel sichern</translation>
+            <translation>Regel speichern</translation>
         </message>
         <message>
             <source>Save to main folder</source>
@@ -1157,7 +1157,7 @@
         </message>
         <message>
             <source>Waiting...</source>
-            <translation>Warten...</translation>
+            <translation>Wartet...</translation>
         </message>
         <message>
             <source>Warn and pause if disk space is low</source>

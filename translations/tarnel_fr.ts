@@ -557,7 +557,7 @@
         </message>
         <message>
             <source>Listing folders...</source>
-            <translation>Liste des dossiers...</translation>
+            <translation>Lecture des dossiers...</translation>
         </message>
         <message>
             <source>Local Folder</source>
@@ -577,7 +577,7 @@
         </message>
         <message>
             <source>Manual</source>
-            <translation>Manuel</translation>
+            <translation>Manuelle</translation>
         </message>
         <message>
             <source>Match</source>
@@ -1229,7 +1229,7 @@
         </message>
         <message>
             <source>growing...</source>
-            <translation>en croissance...</translation>
+            <translation>en cours d'écriture...</translation>
         </message>
         <message>
             <source>h ago</source>
