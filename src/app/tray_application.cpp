@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "app/app_delegate.h"
+#include "app/app_language.h"
 #include "app/instance_channel.h"
 #include "app/instance_lock.h"
 #include "app/instance_requests.h"
@@ -32,6 +33,7 @@ int runTrayApplication(int argc, char** argv, const AppPaths& paths) {
     QApplication::setWindowIcon(artworkIcon("tarnel"));
     QApplication::setDesktopFileName(QStringLiteral("tarnel"));
 
+    const AppLanguage language(paths.settingsFile);
     AppDelegate delegate(paths);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &app,
                      [&delegate] { delegate.applicationWillTerminate(); });

@@ -6,16 +6,10 @@
 
 #include "app/app_delegate.h"
 #include "shell/settings/connections_settings_tab.h"
+#include "temporary_paths.h"
 
 namespace tarnel {
 namespace {
-
-AppPaths pathsIn(const QTemporaryDir& dir) {
-    const std::filesystem::path root = dir.path().toStdString();
-    return {root / "Tarnel.conf",  root / "autostart" / "tarnel.desktop", root / "history.json",
-            root / "partials.json", root / "known_hosts", root / "Tarnel.log", root / "instance.lock",
-            root / "instance.socket"};
-}
 
 QToolButton* buttonLabelled(QWidget& parent, const QString& text) {
     for (auto* button : parent.findChildren<QToolButton*>())

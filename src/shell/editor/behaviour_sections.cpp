@@ -34,7 +34,7 @@ void ConnectionEditView::addRoutingSections() {
     std::vector<std::pair<QString, FallbackBehavior>> behaviours;
     for (auto b : {FallbackBehavior::useLocalFolder, FallbackBehavior::ignore, FallbackBehavior::useSpecificFolder})
         behaviours.emplace_back(qs(displayText(b)), b);
-    form.picker<FallbackBehavior>("Behavior", behaviours, &ConnectionConfig::fallbackBehavior);
+    form.picker<FallbackBehavior>(UI_TEXT("Behavior"), behaviours, &ConnectionConfig::fallbackBehavior);
     auto* holder = new QWidget;
     auto* line = new QHBoxLayout(holder);
     line->setContentsMargins(0, 0, 0, 0);
@@ -62,8 +62,8 @@ void ConnectionEditView::addRoutingSections() {
 void ConnectionEditView::addScheduleSections() {
     auto& form = *form_;
     form.section(ui("Schedule"));
-    form.toggle("Connect automatically when Tarnel starts", &ConnectionConfig::autoConnectOnLaunch);
-    form.toggle("Sync only during scheduled hours", &ConnectionConfig::scheduleEnabled);
+    form.toggle(UI_TEXT("Connect automatically when Tarnel starts"), &ConnectionConfig::autoConnectOnLaunch);
+    form.toggle(UI_TEXT("Sync only during scheduled hours"), &ConnectionConfig::scheduleEnabled);
     const auto scheduled = [](const ConnectionConfig& c) { return c.scheduleEnabled; };
 
     auto* days = new QWidget;
@@ -100,8 +100,8 @@ void ConnectionEditView::addScheduleSections() {
     form.showWhen(scheduled);
 
     form.section(ui("Organization"));
-    form.toggle("Organize by date (YYYY/MM/DD)", &ConnectionConfig::organizeByDate);
-    form.toggle("Create subfolder per connection", &ConnectionConfig::organizeByConnection);
+    form.toggle(UI_TEXT("Organize by date (YYYY/MM/DD)"), &ConnectionConfig::organizeByDate);
+    form.toggle(UI_TEXT("Create subfolder per connection"), &ConnectionConfig::organizeByConnection);
     Clock& clock = manager_.services().runtime.clock;
     form.live([&clock](const ConnectionConfig& c) { return organizationExample(c, clock); });
 }
@@ -109,7 +109,7 @@ void ConnectionEditView::addScheduleSections() {
 void ConnectionEditView::addSubdirectorySection() {
     auto& form = *form_;
     form.section(ui("Remote Subdirectories"));
-    form.toggle("Sync subfolders recursively", &ConnectionConfig::exploreSubdirectories);
+    form.toggle(UI_TEXT("Sync subfolders recursively"), &ConnectionConfig::exploreSubdirectories);
     form.note(ui("Includes files from all subfolders on the server. Can be slow with large servers."));
     form.stepper("Max depth: ", &ConnectionConfig::maxDepth, 1, 10,
                  [](int n) { return ui("Max depth: ") + QString::number(n); });
@@ -131,21 +131,21 @@ void ConnectionEditView::addSubdirectorySection() {
     for (auto o : {SubdirectoryOrganization::mirrorStructure, SubdirectoryOrganization::flatAll,
                    SubdirectoryOrganization::lastLevel, SubdirectoryOrganization::customPerFolder})
         organizations.emplace_back(qs(displayText(o)), o);
-    form.picker<SubdirectoryOrganization>("Organize downloads", organizations,
+    form.picker<SubdirectoryOrganization>(UI_TEXT("Organize downloads"), organizations,
                                           &ConnectionConfig::subdirectoryOrganization);
     form.row({}, new FolderMappingsView(form));
     form.showWhen([](const ConnectionConfig& c) {
         return c.subdirectoryOrganization == SubdirectoryOrganization::customPerFolder &&
                !c.selectedRemotePaths.empty();
     });
-    form.toggle("Auto-monitor new remote folders", &ConnectionConfig::autoMonitorNewFolders);
-    form.toggle("Delete empty remote folders", &ConnectionConfig::deleteEmptyRemoteFolders);
+    form.toggle(UI_TEXT("Auto-monitor new remote folders"), &ConnectionConfig::autoMonitorNewFolders);
+    form.toggle(UI_TEXT("Delete empty remote folders"), &ConnectionConfig::deleteEmptyRemoteFolders);
 }
 
 void ConnectionEditView::addRenameSection() {
     auto& form = *form_;
     form.section(ui("Auto-Rename"));
-    form.text("Pattern (empty = no rename)", "{date}_{counter}_{original}", &ConnectionConfig::renamePattern);
+    form.text(UI_TEXT("Pattern (empty = no rename)"), "{date}_{counter}_{original}", &ConnectionConfig::renamePattern);
     form.note(ui("Variables: {original}, {date}, {time}, {counter}, {host}"));
     form.live([](const ConnectionConfig&) { return ui("No rename — original filename is kept"); });
     form.showWhen([](const ConnectionConfig& c) { return c.renamePattern.empty(); });
@@ -178,18 +178,18 @@ void ConnectionEditView::addAdvancedSection() {
         header->setIcon(symbolIcon(showAdvanced ? "chevron.down" : "chevron.right"));
         advanced->setVisible(showAdvanced);
     });
-    form.toggle("Run post-download action", &ConnectionConfig::postActionEnabled);
-    form.text("Command or script", "/usr/bin/script.sh {filepath}", &ConnectionConfig::postActionPath);
+    form.toggle(UI_TEXT("Run post-download action"), &ConnectionConfig::postActionEnabled);
+    form.text(UI_TEXT("Command or script"), "/usr/bin/script.sh {filepath}", &ConnectionConfig::postActionPath);
     form.showWhen([](const ConnectionConfig& c) { return c.postActionEnabled; });
     form.stepper("Max retries: ", &ConnectionConfig::maxRetries, 0, 10,
                  [](int n) { return ui("Max retries: ") + QString::number(n); });
     form.stepper("Max resume attempts: ", &ConnectionConfig::maxResumeAttempts, 0, 10,
                  [](int n) { return ui("Max resume attempts: ") + QString::number(n); });
     form.note(ui("Interrupted downloads resume automatically. Set to 0 to disable."));
-    form.toggle("Verify checksum (MD5)", &ConnectionConfig::checksumVerification);
+    form.toggle(UI_TEXT("Verify checksum (MD5)"), &ConnectionConfig::checksumVerification);
     form.note(ui("Recommended for critical transfers. May double download time."));
-    form.toggle("Auto-decompress ZIP/GZ", &ConnectionConfig::autoDecompress);
-    form.picker<int>("Max download speed", translatedEntries<int>(bandwidthChoices()),
+    form.toggle(UI_TEXT("Auto-decompress ZIP/GZ"), &ConnectionConfig::autoDecompress);
+    form.picker<int>(UI_TEXT("Max download speed"), translatedEntries<int>(bandwidthChoices()),
                      &ConnectionConfig::maxBandwidthKBps);
 }
 

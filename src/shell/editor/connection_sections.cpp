@@ -35,28 +35,29 @@ QPushButton* buttonRow(EditorForm& form, const QString& label, QWidget* field, c
 void ConnectionEditView::addConnectionSection() {
     auto& form = *form_;
     form.section(ui("Connection"));
-    form.text("Name", "My Camera FTP", &ConnectionConfig::name);
-    form.toggle("Enabled", &ConnectionConfig::enabled);
-    form.picker<TransferProtocol>("Protocol",
+    form.text(UI_TEXT("Name"), UI_TEXT("My Camera FTP"), &ConnectionConfig::name);
+    form.toggle(UI_TEXT("Enabled"), &ConnectionConfig::enabled);
+    form.picker<TransferProtocol>(UI_TEXT("Protocol"),
                                   {{QStringLiteral("FTP"), TransferProtocol::ftp},
                                    {QStringLiteral("SFTP"), TransferProtocol::sftp},
                                    {QStringLiteral("FTPS"), TransferProtocol::ftps}},
                                   &ConnectionConfig::transferProtocol,
                                   [](ConnectionConfig& c) { c.port = defaultPort(c.transferProtocol); });
-    form.text("Host", "ftp.example.com", &ConnectionConfig::host);
-    form.number("Port", &ConnectionConfig::port, [](const ConnectionConfig& c) { return portProblem(c.port); });
-    form.text("Username", nullptr, &ConnectionConfig::username);
-    form.text("Password", nullptr, &ConnectionConfig::password)->setEchoMode(QLineEdit::Password);
-    form.picker<bool>("FTP Mode", {{ui("Passive (recommended)"), true}, {ui("Active"), false}},
+    form.text(UI_TEXT("Host"), "ftp.example.com", &ConnectionConfig::host);
+    form.number(UI_TEXT("Port"), &ConnectionConfig::port, [](const ConnectionConfig& c) { return portProblem(c.port); });
+    form.text(UI_TEXT("Username"), nullptr, &ConnectionConfig::username);
+    form.text(UI_TEXT("Password"), nullptr, &ConnectionConfig::password)->setEchoMode(QLineEdit::Password);
+    form.picker<bool>(UI_TEXT("FTP Mode"), {{ui("Passive (recommended)"), true}, {ui("Active"), false}},
                       &ConnectionConfig::ftpPassiveMode);
     form.showWhen([](const ConnectionConfig& c) { return !isSftp(c); });
-    form.toggle("Allow self-signed certificates", &ConnectionConfig::allowSelfSignedCerts);
+    form.toggle(UI_TEXT("Allow self-signed certificates"), &ConnectionConfig::allowSelfSignedCerts);
     form.showWhen([](const ConnectionConfig& c) { return c.transferProtocol == TransferProtocol::ftps; });
     form.note(ui("Disable SSL verification. Only enable if your server uses a self-signed or expired certificate."));
     form.showWhen([](const ConnectionConfig& c) { return c.transferProtocol == TransferProtocol::ftps; });
 
-    auto* key = form.lineEdit("SSH Key Path", "Select SSH key (optional)", &ConnectionConfig::sshKeyPath);
-    auto* browseKey = buttonRow(form, ui("SSH Key Path"), key, "Browse...");
+    auto* key = form.lineEdit(UI_TEXT("SSH Key Path"), UI_TEXT("Select SSH key (optional)"),
+                              &ConnectionConfig::sshKeyPath);
+    auto* browseKey = buttonRow(form, ui("SSH Key Path"), key, UI_TEXT("Browse..."));
     form.showWhen(isSftp);
     connect(browseKey, &QPushButton::clicked, this, [this] {
         const auto path = choosePath(PathPanel::sshKey);
@@ -77,7 +78,7 @@ void ConnectionEditView::addConnectionSection() {
 void ConnectionEditView::addFolderSections() {
     auto& form = *form_;
     form.section(ui("Remote Folder"));
-    auto* remote = form.lineEdit("Remote path", "/uploads/photos", &ConnectionConfig::remotePath);
+    auto* remote = form.lineEdit(UI_TEXT("Remote path"), "/uploads/photos", &ConnectionConfig::remotePath);
     auto* browseButton =
         buttonRow(form, ui("Remote path"),
                   form.withProblem(remote, [](const ConnectionConfig& c) { return remotePathProblem(c.remotePath); }),
@@ -91,7 +92,7 @@ void ConnectionEditView::addFolderSections() {
     auto* local = new QLabel;
     local->setTextFormat(Qt::PlainText);
     local->setObjectName(QStringLiteral("Local Folder"));
-    auto* choose = buttonRow(form, {}, local, "Choose...");
+    auto* choose = buttonRow(form, {}, local, UI_TEXT("Choose..."));
     choose->setObjectName(QStringLiteral("Choose local folder"));
     form.onRefresh([this, local] {
         local->setText(config_.localPath.empty() ? ui("Not selected") : qs(config_.localPath));
@@ -109,13 +110,13 @@ void ConnectionEditView::addFolderSections() {
 void ConnectionEditView::addTransferSection() {
     auto& form = *form_;
     form.section(ui("Sync & Transfer"));
-    form.picker<double>("Polling Interval", translatedEntries<double>(pollIntervalChoices()),
+    form.picker<double>(UI_TEXT("Polling Interval"), translatedEntries<double>(pollIntervalChoices()),
                         &ConnectionConfig::pollInterval);
     form.stepper("Stability checks: ", &ConnectionConfig::requiredStableChecks, 2, 5,
                  [](int n) { return ui("Stability checks: ") + QString::number(n); });
     form.stepper("Simultaneous downloads: ", &ConnectionConfig::maxConcurrentDownloads, 1, 8,
                  [](int n) { return ui("Simultaneous downloads: ") + QString::number(n); });
-    form.toggle("Delete files from FTP after download", &ConnectionConfig::deleteAfterDownload);
+    form.toggle(UI_TEXT("Delete files from FTP after download"), &ConnectionConfig::deleteAfterDownload);
     form.live([](const ConnectionConfig& c) {
         return c.deleteAfterDownload ? ui("Move mode: files are removed from the server.")
                                      : ui("Copy mode: files stay on the server.");

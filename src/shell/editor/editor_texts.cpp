@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QLocale>
-#include <map>
 
 #include "engine/destination.h"
 #include "shell/bridge/qt_text.h"
@@ -44,25 +43,6 @@ std::vector<QString> dayLabels() {
     return labels;
 }
 
-QString keyedText(const std::string& key) {
-    static const std::map<std::string, const char*> english = {
-        {"dead.rule.warning", "Never used: an earlier rule already takes these files"},
-        {"ext.cat.images", "Images"},
-        {"ext.cat.video", "Video"},
-        {"ext.cat.audio", "Audio"},
-        {"ext.cat.documents", "Documents"},
-        {"ext.cat.temp", "Temporary files"},
-        {"ext.reset.button", "Reset to preset"},
-        {"ext.unspecified.label", "Other extensions"},
-        {"ext.unspecified.download", "Download"},
-        {"ext.unspecified.ignore", "Ignore"},
-    };
-    const QString translated = ui(key.c_str());
-    const auto found = english.find(key);
-    if (found == english.end() || translated != qs(key)) return translated;
-    return ui(found->second);
-}
-
 std::optional<QString> portProblem(int port) {
     if (port >= 1 && port <= 65535) return std::nullopt;
     return ui("Port must be between 1 and 65535");
@@ -102,16 +82,18 @@ QColor tagDisplayColor(std::optional<FinderTagColor> color) {
 
 const std::vector<std::pair<const char*, double>>& pollIntervalChoices() {
     static const std::vector<std::pair<const char*, double>> choices = {
-        {"2 seconds", 2.0},  {"5 seconds", 5.0},  {"15 seconds", 15.0}, {"30 seconds", 30.0},
-        {"1 minute", 60.0}, {"2 minutes", 120.0}, {"5 minutes", 300.0}};
+        {UI_TEXT("2 seconds"), 2.0},   {UI_TEXT("5 seconds"), 5.0},   {UI_TEXT("15 seconds"), 15.0},
+        {UI_TEXT("30 seconds"), 30.0}, {UI_TEXT("1 minute"), 60.0},   {UI_TEXT("2 minutes"), 120.0},
+        {UI_TEXT("5 minutes"), 300.0}};
     return choices;
 }
 
 const std::vector<std::pair<const char*, int>>& bandwidthChoices() {
     static const std::vector<std::pair<const char*, int>> choices = {
-        {"Unlimited", 0},   {"128 KB/s", 128},  {"256 KB/s", 256},   {"512 KB/s", 512},
-        {"1 MB/s", 1024},   {"2 MB/s", 2048},   {"5 MB/s", 5120},    {"10 MB/s", 10240},
-        {"20 MB/s", 20480}, {"50 MB/s", 51200}};
+        {UI_TEXT("Unlimited"), 0},     {UI_TEXT("128 KB/s"), 128}, {UI_TEXT("256 KB/s"), 256},
+        {UI_TEXT("512 KB/s"), 512},    {UI_TEXT("1 MB/s"), 1024},  {UI_TEXT("2 MB/s"), 2048},
+        {UI_TEXT("5 MB/s"), 5120},     {UI_TEXT("10 MB/s"), 10240}, {UI_TEXT("20 MB/s"), 20480},
+        {UI_TEXT("50 MB/s"), 51200}};
     return choices;
 }
 

@@ -29,10 +29,6 @@ QString organizationExample(const ConnectionConfig& config, const Clock& clock);
 // Monday first, as the record's schedule days are.
 std::vector<QString> dayLabels();
 
-// The English wording of the editor's texts that the translation table keys by name
-// ("dead.rule.warning", "ext.cat.images"); any other text passes through the table as it is.
-QString keyedText(const std::string& key);
-
 // Why a field's value cannot be used, said beside the field; nothing when it can.
 std::optional<QString> portProblem(int port);
 std::optional<QString> remotePathProblem(const std::string& path);

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "platform/localized.h"
 #include "shell/bridge/qt_text.h"
 #include "shell/editor/editor_form.h"
 #include "shell/editor/editor_texts.h"
@@ -39,7 +40,7 @@ ExtensionFilterView::ExtensionFilterView(EditorForm& form)
     for (const auto& preset : filterPresets()) presets_->addItem(qs(preset.name), qs(preset.id));
     presets_->setObjectName(QStringLiteral("Extension preset"));
     presetRow->addWidget(presets_, 1);
-    reset_->setText(keyedText("ext.reset.button"));
+    reset_->setText(qs(localized("ext.reset.button")));
     reset_->setAutoDefault(false);
     presetRow->addWidget(reset_);
     layout->addLayout(presetRow);
@@ -51,7 +52,7 @@ ExtensionFilterView::ExtensionFilterView(EditorForm& form)
     layout->addWidget(heading);
 
     for (const auto& category : extensionCategories()) {
-        auto* head = new QCheckBox(keyedText(category.name));
+        auto* head = new QCheckBox(qs(category.name));
         head->setTristate(true);
         heads_[category.id] = head;
         layout->addWidget(head);
@@ -82,9 +83,9 @@ ExtensionFilterView::ExtensionFilterView(EditorForm& form)
     }
 
     auto* unspecifiedRow = new QHBoxLayout;
-    unspecifiedRow->addWidget(new QLabel(keyedText("ext.unspecified.label")));
-    unspecified_->addItem(keyedText("ext.unspecified.download"));
-    unspecified_->addItem(keyedText("ext.unspecified.ignore"));
+    unspecifiedRow->addWidget(new QLabel(qs(localized("ext.unspecified.label"))));
+    unspecified_->addItem(qs(localized("ext.unspecified.download")));
+    unspecified_->addItem(qs(localized("ext.unspecified.ignore")));
     unspecifiedRow->addWidget(unspecified_, 1);
     layout->addLayout(unspecifiedRow);
 

@@ -73,7 +73,7 @@ RoutingRuleEditSheet::RoutingRuleEditSheet(RoutingRule rule, ChoosePath choosePa
     setFixedWidth(420);
     auto* layout = new QVBoxLayout(this);
 
-    auto* match = new QFormLayout(group(layout, "Match"));
+    auto* match = new QFormLayout(group(layout, UI_TEXT("Match")));
     for (auto type : matchTypes) type_->addItem(qs(title(type)));
     match->addRow(ui("Type"), type_);
     match->addRow(value_);
@@ -97,7 +97,7 @@ RoutingRuleEditSheet::RoutingRuleEditSheet(RoutingRule rule, ChoosePath choosePa
         preview->addLayout(line);
     }
 
-    auto* destination = new QHBoxLayout(group(layout, "Destination Folder"));
+    auto* destination = new QHBoxLayout(group(layout, UI_TEXT("Destination Folder")));
     folder_->setTextFormat(Qt::PlainText);
     destination->addWidget(folder_, 1);
     auto* clear = new QPushButton(ui("Clear"));
@@ -117,7 +117,7 @@ RoutingRuleEditSheet::RoutingRuleEditSheet(RoutingRule rule, ChoosePath choosePa
         }
     });
 
-    auto* tags = new QFormLayout(group(layout, "Finder Tags"));
+    auto* tags = new QFormLayout(group(layout, UI_TEXT("Finder Tags")));
     auto* colorRow = new QHBoxLayout;
     for (const auto color : tagColors) {
         auto* button = new QPushButton;

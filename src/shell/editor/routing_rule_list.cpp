@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "connections/routing.h"
+#include "platform/localized.h"
 #include "shell/bridge/qt_text.h"
 #include "shell/editor/editor_form.h"
 #include "shell/editor/editor_texts.h"
@@ -104,7 +105,7 @@ void RoutingRuleList::removeRule(int index) {
 std::vector<QString> RoutingRuleList::warnings() const {
     std::vector<QString> texts;
     for (std::size_t i = 0; i < shown_.size(); ++i)
-        texts.push_back(shadowingRulePosition(shown_[i], i, shown_) ? keyedText("dead.rule.warning")
+        texts.push_back(shadowingRulePosition(shown_[i], i, shown_) ? qs(localized("dead.rule.warning"))
                                                                     : QString());
     return texts;
 }
@@ -163,7 +164,7 @@ QWidget* RoutingRuleList::makeRow(const RoutingRule& rule, int index,
         auto* warning = new QHBoxLayout;
         warning->setContentsMargins(22, 0, 0, 0);
         warning->addWidget(iconLabel("exclamationmark.triangle.fill", QColor(0xe6, 0x8a, 0x00), ratio));
-        warning->addWidget(new QLabel(keyedText("dead.rule.warning")), 1);
+        warning->addWidget(new QLabel(qs(localized("dead.rule.warning"))), 1);
         outer->addLayout(warning);
     }
     const Uuid id = rule.id;

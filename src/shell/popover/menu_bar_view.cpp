@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QGridLayout>
+#include <QLocale>
 #include <QMenu>
 #include <QProgressBar>
 #include <QScrollArea>
@@ -43,7 +44,8 @@ QHBoxLayout* iconTextLine(const char* icon, const QString& text, std::optional<T
 QString timeText(TimePoint t) {
     const auto when = QDateTime::fromSecsSinceEpoch(std::chrono::system_clock::to_time_t(t));
     const bool today = when.date() == QDate::currentDate();
-    return when.toString(today ? QStringLiteral("HH:mm") : QStringLiteral("d MMM HH:mm"));
+    // The month's name in the program's language (QDateTime alone gives English).
+    return QLocale().toString(when, today ? QStringLiteral("HH:mm") : QStringLiteral("d MMM HH:mm"));
 }
 
 void openFolder(const std::filesystem::path& folder) {
@@ -97,8 +99,9 @@ MenuBarView::MenuBarView(ConnectionsManager& manager, AppSettings& settings, Sta
     connections_->setSpacing(2);
     sections->addLayout(connections_);
 
-    for (auto [heading, layout] : {std::pair{"ACTIVITY", &activity_}, std::pair{"RECENT", &recent_},
-                                   std::pair{"STATISTICS", &statistics_}}) {
+    for (auto [heading, layout] :
+         {std::pair{UI_TEXT("ACTIVITY"), &activity_}, std::pair{UI_TEXT("RECENT"), &recent_},
+          std::pair{UI_TEXT("STATISTICS"), &statistics_}}) {
         sections->addSpacing(6);
         sections->addWidget(sectionHeading(ui(heading)));
         *layout = new QVBoxLayout;
@@ -134,11 +137,11 @@ MenuBarView::MenuBarView(ConnectionsManager& manager, AppSettings& settings, Sta
     auto* footer = new QGridLayout;
     footer->setSpacing(0);
     const std::tuple<const char*, const char*, std::function<void()>&> entries[] = {
-        {"History...", "clock.arrow.circlepath", callbacks_.onViewHistory},
-        {"Log...", "doc.text", callbacks_.onViewLog},
-        {"Settings...", "gear", callbacks_.onSettings},
-        {"About Tarnel", "info.circle", callbacks_.onAbout},
-        {"Quit", "xmark.circle", callbacks_.onQuit},
+        {UI_TEXT("History..."), "clock.arrow.circlepath", callbacks_.onViewHistory},
+        {UI_TEXT("Log..."), "doc.text", callbacks_.onViewLog},
+        {UI_TEXT("Settings..."), "gear", callbacks_.onSettings},
+        {UI_TEXT("About Tarnel"), "info.circle", callbacks_.onAbout},
+        {UI_TEXT("Quit"), "xmark.circle", callbacks_.onQuit},
     };
     int index = 0;
     for (const auto& [label, icon, action] : entries) {
@@ -406,7 +409,7 @@ void MenuBarView::refreshDiskAndNetwork() {
     diskAndNetwork_->addLayout(iconTextLine(free < 5.0 ? "externaldrive.badge.exclamationmark" : "externaldrive",
                                             QString::fromLatin1(figure) + ui(" GB free"), diskTone(free), true));
     const auto& network = manager_.networkType()();
-    diskAndNetwork_->addLayout(iconTextLine(networkIconName(network), qs(network), Tone::secondary, true));
+    diskAndNetwork_->addLayout(iconTextLine(networkIconName(network), qs(networkText(network)), Tone::secondary, true));
 }
 
 void MenuBarView::refreshButtons() {

@@ -33,7 +33,7 @@ std::optional<Banner> bannerFor(const BannerInputs& in) {
 std::string connectionStatusWord(const ConnectionConfig& config,
                                  const std::optional<EngineStatus>& engine) {
     if (!config.enabled) return localized("Disabled");
-    if (!engine) return localized(config.autoConnectOnLaunch ? "Stopped" : "Manual");
+    if (!engine) return config.autoConnectOnLaunch ? localized("Stopped") : localized("Manual");
     if (engine->state == ConnectionState::connected || engine->state == ConnectionState::syncing)
         return localized("Connected");
     return engine->statusText;
@@ -71,6 +71,13 @@ Tone diskTone(double freeGB) {
     if (freeGB < 2.0) return Tone::red;
     if (freeGB < 5.0) return Tone::orange;
     return Tone::secondary;
+}
+
+std::string networkText(const std::string& networkType) {
+    if (networkType == "Cellular") return localized("Cellular");
+    if (networkType == "Offline") return localized("Offline");
+    if (networkType == "Connected") return localized("Connected");
+    return networkType;
 }
 
 const char* networkIconName(const std::string& networkType) {

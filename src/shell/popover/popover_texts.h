@@ -64,6 +64,8 @@ std::string progressPercentText(const DownloadProgress& download);
 
 // The free-space figure's colour: red below 2 GB, orange below 5 GB, whatever the threshold.
 Tone diskTone(double freeGB);
+// The network word as the user reads it: "Wi-Fi" and "Ethernet" are the same in every language.
+std::string networkText(const std::string& networkType);
 // "wifi", "cable.connector", "antenna.radiowaves.left.and.right", "wifi.slash" by network word.
 const char* networkIconName(const std::string& networkType);
 

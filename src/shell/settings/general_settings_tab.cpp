@@ -12,7 +12,7 @@ namespace tarnel {
 
 const std::vector<std::pair<const char*, const char*>>& GeneralSettingsTab::languages() {
     static const std::vector<std::pair<const char*, const char*>> list{
-        {"system", "System default"}, {"en", "English"},   {"es", "Español"},
+        {"system", UI_TEXT("System default")}, {"en", "English"},   {"es", "Español"},
         {"ca", "Català"},             {"fr", "Français"},  {"de", "Deutsch"},
         {"pt-PT", "Português"},       {"ja", "日本語"},     {"zh-Hans", "中文"},
         {"it", "Italiano"},           {"ko", "한국어"},     {"nl", "Nederlands"},
@@ -34,33 +34,33 @@ GeneralSettingsTab::GeneralSettingsTab(AppSettings& settings) {
     };
 
     auto* startup = formSection(form, ui("Startup"));
-    toggle(startup, "Launch Tarnel when Mac starts", settings.launchAtLogin, [&settings](bool on) {
+    toggle(startup, UI_TEXT("Launch Tarnel when Mac starts"), settings.launchAtLogin, [&settings](bool on) {
         settings.setLaunchAtLogin(on);
         settings.applyLaunchAtLogin(on);
     });
 
     auto* sleep = formSection(form, ui("Sleep Behavior"));
-    toggle(sleep, "Prevent sleep during downloads", settings.preventSleepDuringDownloads,
+    toggle(sleep, UI_TEXT("Prevent sleep during downloads"), settings.preventSleepDuringDownloads,
            [&settings](bool on) { settings.setPreventSleepDuringDownloads(on); });
     noteWhileOn(sleep,
-                "Sleep is only prevented while files are actively downloading. Normal sleep "
-                "resumes when idle.",
+                UI_TEXT("Sleep is only prevented while files are actively downloading. Normal sleep "
+                        "resumes when idle."),
                 settings.preventSleepDuringDownloads);
-    toggle(sleep, "Pause and resume on wake", settings.pauseResumeOnWake,
+    toggle(sleep, UI_TEXT("Pause and resume on wake"), settings.pauseResumeOnWake,
            [&settings](bool on) { settings.setPauseResumeOnWake(on); });
     noteWhileOn(sleep,
-                "If the Mac sleeps anyway (battery, lid close), transfers will pause and resume "
-                "automatically on wake.",
+                UI_TEXT("If the Mac sleeps anyway (battery, lid close), transfers will pause and resume "
+                        "automatically on wake."),
                 settings.pauseResumeOnWake);
 
     auto* network = formSection(form, ui("Network"));
-    toggle(network, "Pause when on mobile hotspot", settings.pauseOnHotspot,
+    toggle(network, UI_TEXT("Pause when on mobile hotspot"), settings.pauseOnHotspot,
            [&settings](bool on) { settings.setPauseOnHotspot(on); });
-    toggle(network, "Pause when internet is unavailable", settings.pauseOnNoInternet,
+    toggle(network, UI_TEXT("Pause when internet is unavailable"), settings.pauseOnNoInternet,
            [&settings](bool on) { settings.setPauseOnNoInternet(on); });
 
     auto* disk = formSection(form, ui("Disk Space"));
-    toggle(disk, "Warn and pause if disk space is low", settings.diskSpaceWarningEnabled,
+    toggle(disk, UI_TEXT("Warn and pause if disk space is low"), settings.diskSpaceWarningEnabled,
            [&settings](bool on) { settings.setDiskSpaceWarningEnabled(on); });
     auto* threshold = new QWidget;
     auto* thresholdRow = new QHBoxLayout(threshold);

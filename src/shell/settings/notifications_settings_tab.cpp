@@ -44,9 +44,9 @@ NotificationsSettingsTab::NotificationsSettingsTab(AppSettings& settings, SoundP
     };
 
     auto* downloads = formSection(form, ui("Download Notifications"));
-    toggle(downloads, "Notify when downloads complete", settings.notificationsEnabled,
+    toggle(downloads, UI_TEXT("Notify when downloads complete"), settings.notificationsEnabled,
            [&settings](bool on) { settings.setNotificationsEnabled(on); });
-    minFileCount_ = stepper("Only if ", " or more files", 1, 50);
+    minFileCount_ = stepper(UI_TEXT("Only if "), UI_TEXT(" or more files"), 1, 50);
     bindValue(minFileCount_, settings.notifyMinFileCount,
               [&settings](int n) { settings.setNotifyMinFileCount(n); }, bindings_);
     bindVisible(dependent(downloads, minFileCount_), settings.notificationsEnabled, true, bindings_);
@@ -56,15 +56,15 @@ NotificationsSettingsTab::NotificationsSettingsTab(AppSettings& settings, SoundP
     bindVisible(dependent(downloads, group), settings.notificationsEnabled, true, bindings_);
 
     auto* errors = formSection(form, ui("Error Notifications"));
-    toggle(errors, "Notify on connection errors", settings.notifyErrors,
+    toggle(errors, UI_TEXT("Notify on connection errors"), settings.notifyErrors,
            [&settings](bool on) { settings.setNotifyErrors(on); });
-    errorAttempts_ = stepper("After ", " consecutive failures", 1, 10);
+    errorAttempts_ = stepper(UI_TEXT("After "), UI_TEXT(" consecutive failures"), 1, 10);
     bindValue(errorAttempts_, settings.notifyErrorsAfterAttempts,
               [&settings](int n) { settings.setNotifyErrorsAfterAttempts(n); }, bindings_);
     bindVisible(dependent(errors, errorAttempts_), settings.notifyErrors, true, bindings_);
 
     auto* sound = formSection(form, ui("Sound"));
-    toggle(sound, "Play sound on download", settings.playSoundOnDownload,
+    toggle(sound, UI_TEXT("Play sound on download"), settings.playSoundOnDownload,
            [&settings](bool on) { settings.setPlaySoundOnDownload(on); });
     auto* soundRow = new QWidget;
     auto* row = new QHBoxLayout(soundRow);
@@ -82,7 +82,7 @@ NotificationsSettingsTab::NotificationsSettingsTab(AppSettings& settings, SoundP
     bindVisible(dependent(sound, soundRow), settings.playSoundOnDownload, true, bindings_);
 
     auto* schedule = formSection(form, ui("Schedule Notifications"));
-    toggle(schedule, "Notify when connections pause/resume by schedule",
+    toggle(schedule, UI_TEXT("Notify when connections pause/resume by schedule"),
            settings.notifySchedulePauseResume,
            [&settings](bool on) { settings.setNotifySchedulePauseResume(on); });
     form->addStretch();

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QLocale>
+#include <QTranslator>
+#include <filesystem>
+
+namespace tarnel {
+
+// The language the tray application speaks for the life of the process: the one chosen in the
+// settings, or the environment's (LANGUAGE, LC_ALL, LANG) while the choice is "system". Texts
+// without a translation stay in English. Made before the first window, after the application.
+class AppLanguage final {
+public:
+    explicit AppLanguage(const std::filesystem::path& settingsFile);
+    ~AppLanguage();
+
+    AppLanguage(const AppLanguage&) = delete;
+    AppLanguage& operator=(const AppLanguage&) = delete;
+
+    const QLocale& locale() const { return locale_; }
+
+private:
+    QLocale locale_;
+    QLocale previousDefault_;
+    QTranslator own_;  // the program's texts, built into it
+    QTranslator qt_;   // Qt's own (dialog buttons, file chooser), where the system has them
+};
+
+}  // namespace tarnel

@@ -1,0 +1,122 @@
+// The tray application in the language chosen in its settings, or the environment's for
+// "system"; this program runs with LANG=es_ES.UTF-8 as a Spanish desktop session would.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <algorithm>
+
+#include "app/app_delegate.h"
+#include "app/app_language.h"
+#include "platform/localized.h"
+#include "platform/qt/qt_settings_store.h"
+#include "records/app_settings.h"
+#include "temporary_paths.h"
+
+namespace tarnel {
+namespace {
+
+void chooseLanguage(const AppPaths& paths, const std::string& code) {
+    QtSettingsStore store(paths.settingsFile);
+    AppSettings(store, paths.autostartFile).setPreferredLanguage(code);
+    store.flush();
+}
+
+// Every text a person reads in the window: labels, buttons and tab titles.
+QStringList textsOf(QWidget& window) {
+    QStringList texts{window.windowTitle()};
+    for (auto* label : window.findChildren<QLabel*>()) texts << label->text();
+    for (auto* button : window.findChildren<QAbstractButton*>()) texts << button->text();
+    for (auto* tabs : window.findChildren<QTabWidget*>())
+        for (int i = 0; i < tabs->count(); ++i) texts << tabs->tabText(i);
+    return texts;
+}
+
+QAbstractButton* buttonLabelled(QWidget& window, const QString& text) {
+    for (auto* button : window.findChildren<QAbstractButton*>())
+        if (button->text() == text) return button;
+    return nullptr;
+}
+
+struct Expected {
+    QStringList popover, settings;
+    QString pauseButton, pausedStatus, imagesCategory;
+};
+
+// Starts the application as the program does, with one connection to watch (its default name
+// and, once paused from the popover, its engine's status come through the core's lookup).
+void expectLanguage(const std::string& choice, const Expected& expected) {
+    QTemporaryDir dir;
+    const auto paths = pathsIn(dir);
+    chooseLanguage(paths, choice);
+    const AppLanguage language(paths.settingsFile);
+    AppDelegate delegate(paths);
+    delegate.applicationDidFinishLaunching();
+    ConnectionConfig shop;
+    shop.host = "127.0.0.1";
+    shop.port = 9;
+    delegate.services().manager().addConnection(shop);
+
+    // The popover follows the fleet at its own pace.
+    auto& popover = delegate.popover();
+    const auto showsAll = [&] {
+        const auto texts = textsOf(popover);
+        return std::all_of(expected.popover.begin(), expected.popover.end(),
+                           [&](const QString& text) { return texts.contains(text); });
+    };
+    QTest::qWaitFor(showsAll);
+    const auto popoverTexts = textsOf(popover);
+    for (const auto& text : expected.popover)
+        EXPECT_TRUE(popoverTexts.contains(text)) << text.toStdString();
+    auto* pause = buttonLabelled(popover, expected.pauseButton);
+    ASSERT_NE(pause, nullptr) << expected.pauseButton.toStdString();
+    QTest::mouseClick(pause, Qt::LeftButton);
+    const auto& engines = delegate.services().manager().engines();
+    ASSERT_EQ(engines.size(), 1u);
+    EXPECT_EQ(QString::fromStdString(engines.begin()->second->statusText()()), expected.pausedStatus);
+    EXPECT_EQ(QString::fromStdString(localized("ext.cat.images")), expected.imagesCategory);
+
+    delegate.showSettings(SettingsTab::general);
+    const auto settingsTexts = textsOf(*delegate.settingsWindow());
+    for (const auto& text : expected.settings)
+        EXPECT_TRUE(settingsTexts.contains(text)) << text.toStdString();
+    delegate.applicationWillTerminate();
+}
+
+TEST(Language, TheChosenLanguageOutranksTheEnvironments) {
+    expectLanguage("de", {{QStringLiteral("Verbindung hinzufügen"), QStringLiteral("VERBINDUNGEN"),
+                           QStringLiteral("1 aktive Verbindung"), QStringLiteral("Jetzt abgleichen"),
+                           QStringLiteral("Neue Verbindung")},
+                          {QStringLiteral("Tarnel-Einstellungen"), QStringLiteral("Allgemein"),
+                           QStringLiteral("Benachrichtigungen"),
+                           QStringLiteral("Tarnel beim Anmelden starten")},
+                          QStringLiteral("Pausieren"),
+                          QStringLiteral("Pausiert"),
+                          QStringLiteral("Bilder")});
+}
+
+TEST(Language, SystemFollowsTheEnvironment) {
+    expectLanguage("system", {{QStringLiteral("Añadir conexión"), QStringLiteral("CONEXIONES"),
+                               QStringLiteral("1 conexión activa"), QStringLiteral("Sincronizar ahora"),
+                               QStringLiteral("Nueva conexión")},
+                              {QStringLiteral("Ajustes de Tarnel"), QStringLiteral("Notificaciones"),
+                               QStringLiteral("Idioma")},
+                              QStringLiteral("Pausar"),
+                              QStringLiteral("En pausa"),
+                              QStringLiteral("Imágenes")});
+}
+
+TEST(Language, ALanguageWithoutTranslationsStaysInEnglish) {
+    expectLanguage("it", {{QStringLiteral("Add Connection"), QStringLiteral("1 active connection"),
+                           QStringLiteral("New Connection")},
+                          {QStringLiteral("Tarnel Settings"), QStringLiteral("Notifications")},
+                          QStringLiteral("Pause"),
+                          QStringLiteral("Paused"),
+                          QStringLiteral("Images")});
+}
+
+}  // namespace
+}  // namespace tarnel
