@@ -21,12 +21,12 @@ struct Column {
     int width;
 };
 // "Error" takes what is left.
-constexpr std::array<Column, 7> columns{{{"Time", 60, 70},
-                                         {"Status", 60, 90},
-                                         {"Connection", 60, 120},
-                                         {"File", 120, 190},
+constexpr std::array<Column, 7> columns{{{"Time", 60, 66},
+                                         {"Status", 60, 84},
+                                         {"Connection", 60, 110},
+                                         {"File", 120, 170},
                                          {"Size", 50, 70},
-                                         {"Destination", 80, 180},
+                                         {"Destination", 80, 150},
                                          {"Error", 60, 120}}};
 
 constexpr std::array<std::optional<TransferStatus>, 4> pickerStatuses{
