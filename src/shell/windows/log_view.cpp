@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "shell/bridge/qt_text.h"
@@ -63,6 +64,12 @@ LogView::LogView(LogService& logService, const Clock& clock)
     layout->addWidget(body_, 1);
 
     subscription_ = logService_.entries().subscribe([this](const auto& entries) { showEntries(entries); });
+}
+
+void LogView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    // Entries that came while the window was closed were scrolled before it had a size.
+    QTimer::singleShot(0, rows_, [rows = rows_] { rows->scrollToBottom(); });
 }
 
 void LogView::clear() {

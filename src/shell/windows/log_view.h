@@ -18,11 +18,14 @@ public:
     LogView(LogService& logService, const Clock& clock);
 
     // The rows now shown (for a look from outside, as a person would read them).
-    const QTableWidget& rows() const { return *rows_; }
+    QTableWidget& rows() const { return *rows_; }
     bool showsEmptyNote() const { return body_->currentWidget() == emptyNote_; }
 
     void clear();
     void copyAll();
+
+protected:
+    void showEvent(QShowEvent* event) override;
 
 private:
     void showEntries(const std::vector<LogEntry>& entries);
