@@ -24,7 +24,7 @@ QWidget* linkRow(const AboutLink& link, QWidget* context) {
     layout->setContentsMargins(8, 0, 8, 0);
     layout->setSpacing(8);
     layout->addWidget(iconLabel(link.icon, 14, Tone::blue));
-    auto* title = textLabel(link.title, Tone::blue);
+    auto* title = new QLabel(link.title);
     title->setAttribute(Qt::WA_TransparentForMouseEvents);
     layout->addWidget(title);
     layout->addStretch();
