@@ -10,10 +10,32 @@
 
 namespace tarnel {
 
+namespace {
+
+void centreOnScreen(QWidget& window) {
+    if (auto* screen = QGuiApplication::primaryScreen()) {
+        auto frame = window.frameGeometry();
+        frame.moveCenter(screen->availableGeometry().center());
+        window.move(frame.topLeft());
+    }
+}
+
+// The process has no other way to take focus.
+void present(QWidget& window) {
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+}  // namespace
+
 AppDelegate::AppDelegate(AppPaths paths) : paths_(std::move(paths)) {}
 
 AppDelegate::~AppDelegate() {
     // Windows first: they read the services.
+    aboutWindow_.reset();
+    historyWindow_.reset();
+    logWindow_.reset();
     settingsWindow_.reset();
     popover_.reset();
     bridge_.reset();
@@ -64,9 +86,9 @@ void AppDelegate::makePopover(Popover::Kind kind) {
     auto& manager = services_->manager();
     MenuBarCallbacks callbacks{
         .onSettings = [this] { showSettings(SettingsTab::general); },
-        .onViewLog = {},      // the log, history and about windows are not built yet
-        .onViewHistory = {},
-        .onAbout = {},
+        .onViewLog = [this] { showLog(); },
+        .onViewHistory = [this] { showHistory(); },
+        .onAbout = [this] { showAbout(); },
         .onQuit = [] { QApplication::quit(); },
         .onAddConnection =
             [this, &manager] {
@@ -121,16 +143,36 @@ void AppDelegate::showSettings(SettingsTab tab, std::optional<Uuid> connectionId
     }
     settingsWindow_ = std::make_unique<SettingsWindow>(services_->manager(), services_->settings(),
                                                        services_->soundPlayer(), tab, connectionId);
-    if (origin) {
+    if (origin)
         settingsWindow_->move(*origin);
-    } else if (auto* screen = QGuiApplication::primaryScreen()) {
-        auto frame = settingsWindow_->frameGeometry();
-        frame.moveCenter(screen->availableGeometry().center());
-        settingsWindow_->move(frame.topLeft());
+    else
+        centreOnScreen(*settingsWindow_);
+    present(*settingsWindow_);
+}
+
+template <typename Window, typename Make>
+void AppDelegate::showOnce(std::unique_ptr<Window>& window, Make make) {
+    closePopover();
+    if (!window) {
+        window = make();
+        centreOnScreen(*window);
     }
-    settingsWindow_->show();
-    settingsWindow_->raise();
-    settingsWindow_->activateWindow();
+    present(*window);
+}
+
+void AppDelegate::showLog() {
+    showOnce(logWindow_,
+             [this] { return std::make_unique<LogView>(services_->logService(), services_->clock()); });
+}
+
+void AppDelegate::showHistory() {
+    showOnce(historyWindow_, [this] {
+        return std::make_unique<HistoryView>(services_->historyService(), services_->clock());
+    });
+}
+
+void AppDelegate::showAbout() {
+    showOnce(aboutWindow_, [] { return std::make_unique<AboutView>(); });
 }
 
 void AppDelegate::applicationWillTerminate() {

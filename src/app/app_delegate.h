@@ -10,6 +10,9 @@
 #include "shell/popover/popover.h"
 #include "shell/settings/settings_window.h"
 #include "shell/tray/status_icon.h"
+#include "shell/windows/about_view.h"
+#include "shell/windows/history_view.h"
+#include "shell/windows/log_view.h"
 
 namespace tarnel {
 
@@ -33,15 +36,24 @@ public:
     // Opens the popover at the icon (a second launch of the program asks for this too).
     void showPopover();
     void showSettings(SettingsTab tab, std::optional<Uuid> connectionId = std::nullopt);
+    // Each built on first use and centred; a closed one comes back as it was, where it was.
+    void showLog();
+    void showHistory();
+    void showAbout();
 
     AppServices& services() { return *services_; }
     StatusIcon& statusItem() { return *statusItem_; }
     Popover& popover() { return *popover_; }
     SettingsWindow* settingsWindow() { return settingsWindow_.get(); }
+    LogView* logWindow() { return logWindow_.get(); }
+    HistoryView* historyWindow() { return historyWindow_.get(); }
+    AboutView* aboutWindow() { return aboutWindow_.get(); }
 
 private:
     void makePopover(Popover::Kind kind);
     void closePopover();
+    template <typename Window, typename Make>
+    void showOnce(std::unique_ptr<Window>& window, Make make);
 
     AppPaths paths_;
     QObject context_;  // ends the delegate's connections with it
@@ -50,6 +62,9 @@ private:
     std::unique_ptr<FleetBridge> bridge_;
     std::unique_ptr<Popover> popover_;
     std::unique_ptr<SettingsWindow> settingsWindow_;
+    std::unique_ptr<LogView> logWindow_;
+    std::unique_ptr<HistoryView> historyWindow_;
+    std::unique_ptr<AboutView> aboutWindow_;
 };
 
 }  // namespace tarnel
