@@ -56,6 +56,26 @@
             <translation> warten auf Stabilität</translation>
         </message>
         <message>
+            <source>%lld files found</source>
+            <translation>%lld Dateien gefunden</translation>
+        </message>
+        <message>
+            <source>%lld min ago</source>
+            <translation>vor %lld Min.</translation>
+        </message>
+        <message>
+            <source>%lldd ago</source>
+            <translation>vor %lld T.</translation>
+        </message>
+        <message>
+            <source>%lldh ago</source>
+            <translation>vor %lld Std.</translation>
+        </message>
+        <message>
+            <source>%llds ago</source>
+            <translation>vor %lld s</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>“ löschen?</translation>
         </message>
@@ -82,6 +102,10 @@
         <message>
             <source>1 file</source>
             <translation>1 Datei</translation>
+        </message>
+        <message>
+            <source>1 file found</source>
+            <translation>1 Datei gefunden</translation>
         </message>
         <message>
             <source>1 folder selected</source>
@@ -160,8 +184,8 @@
             <translation>Zugriff auf den entfernten Ordner verweigert. Prüfen Sie, ob der Pfad existiert und Sie Leserechte haben.</translation>
         </message>
         <message>
-            <source>Access to '</source>
-            <translation type="unfinished" />
+            <source>Access to '%@' has expired. Please re-select the folder in Settings.</source>
+            <translation>Der Zugriff auf „%@“ ist abgelaufen. Bitte wählen Sie den Ordner in den Einstellungen erneut aus.</translation>
         </message>
         <message>
             <source>Active</source>
@@ -186,6 +210,10 @@
         <message>
             <source>After </source>
             <translation>Nach </translation>
+        </message>
+        <message>
+            <source>All</source>
+            <translation>Alle</translation>
         </message>
         <message>
             <source>All files</source>
@@ -248,12 +276,12 @@
             <translation>Abbrechen</translation>
         </message>
         <message>
-            <source>Cannot connect to port </source>
-            <translation type="unfinished" />
+            <source>Cannot connect to port %lld</source>
+            <translation>Keine Verbindung zu Port %lld möglich</translation>
         </message>
         <message>
-            <source>Cannot write to '</source>
-            <translation type="unfinished" />
+            <source>Cannot write to '%@'. Check folder permissions in Finder &gt; Get Info.</source>
+            <translation>In „%@“ kann nicht geschrieben werden. Prüfen Sie die Zugriffsrechte des Ordners.</translation>
         </message>
         <message>
             <source>Cellular</source>
@@ -266,6 +294,10 @@
         <message>
             <source>Clear</source>
             <translation>Entfernen</translation>
+        </message>
+        <message>
+            <source>Clear All</source>
+            <translation>Alles löschen</translation>
         </message>
         <message>
             <source>Color</source>
@@ -292,8 +324,8 @@
             <translation>Verbindung</translation>
         </message>
         <message>
-            <source>Connection error (code </source>
-            <translation type="unfinished" />
+            <source>Connection error (code %lld)%@. Check your connection settings.</source>
+            <translation>Verbindungsfehler (Code %lld)%@. Prüfen Sie die Verbindungseinstellungen.</translation>
         </message>
         <message>
             <source>Connection failed: </source>
@@ -314,6 +346,10 @@
         <message>
             <source>Continue</source>
             <translation>Fortfahren</translation>
+        </message>
+        <message>
+            <source>Copy All</source>
+            <translation>Alles kopieren</translation>
         </message>
         <message>
             <source>Copy mode: files stay on the server.</source>
@@ -368,8 +404,8 @@
             <translation>Leere entfernte Ordner löschen</translation>
         </message>
         <message>
-            <source>Delete failed: </source>
-            <translation type="unfinished" />
+            <source>Delete failed: %@</source>
+            <translation>Löschen fehlgeschlagen: %@</translation>
         </message>
         <message>
             <source>Delete files from FTP after download</source>
@@ -382,6 +418,10 @@
         <message>
             <source>Deselect All</source>
             <translation>Auswahl aufheben</translation>
+        </message>
+        <message>
+            <source>Destination</source>
+            <translation>Ziel</translation>
         </message>
         <message>
             <source>Destination Folder</source>
@@ -408,12 +448,12 @@
             <translation>Download-Benachrichtigungen</translation>
         </message>
         <message>
-            <source>Download failed: </source>
-            <translation type="unfinished" />
+            <source>Download failed: %@</source>
+            <translation>Download fehlgeschlagen: %@</translation>
         </message>
         <message>
-            <source>Downloaded file '</source>
-            <translation type="unfinished" />
+            <source>Downloaded file '%@' is empty. The remote file may be corrupted or still being written.</source>
+            <translation>Die heruntergeladene Datei „%@“ ist leer. Die Datei auf dem Server ist eventuell beschädigt oder wird noch geschrieben.</translation>
         </message>
         <message>
             <source>E-commerce</source>
@@ -460,6 +500,10 @@
             <translation>FTP-Befehl fehlgeschlagen. Prüfen Sie den entfernten Pfad oder die Löschrechte.</translation>
         </message>
         <message>
+            <source>File</source>
+            <translation>Datei</translation>
+        </message>
+        <message>
             <source>File type</source>
             <translation>Dateityp</translation>
         </message>
@@ -488,8 +532,8 @@
             <translation>Ordnerfehler</translation>
         </message>
         <message>
-            <source>Folder not accessible: </source>
-            <translation type="unfinished" />
+            <source>Folder not accessible: %@</source>
+            <translation>Ordner nicht zugänglich: %@</translation>
         </message>
         <message>
             <source>From </source>
@@ -516,8 +560,8 @@
             <translation>Host</translation>
         </message>
         <message>
-            <source>Host '</source>
-            <translation type="unfinished" />
+            <source>Host '%@' not found</source>
+            <translation>Host „%@“ nicht gefunden</translation>
         </message>
         <message>
             <source>IT &amp; Integrations</source>
@@ -570,6 +614,10 @@
         <message>
             <source>Low disk</source>
             <translation>Speicher knapp</translation>
+        </message>
+        <message>
+            <source>Made by the Tarnel developers.</source>
+            <translation>Entwickelt von den Tarnel-Entwicklern.</translation>
         </message>
         <message>
             <source>Main folder</source>
@@ -656,6 +704,10 @@
             <translation>Keine Verbindungen eingerichtet</translation>
         </message>
         <message>
+            <source>No log entries yet.</source>
+            <translation>Noch keine Protokolleinträge.</translation>
+        </message>
+        <message>
             <source>No minimum</source>
             <translation>Kein Minimum</translation>
         </message>
@@ -678,6 +730,10 @@
         <message>
             <source>No subdirectories found</source>
             <translation>Keine Unterordner gefunden</translation>
+        </message>
+        <message>
+            <source>No transfer history.</source>
+            <translation>Kein Übertragungsverlauf.</translation>
         </message>
         <message>
             <source>None</source>
@@ -706,6 +762,10 @@
         <message>
             <source>Offline</source>
             <translation>Offline</translation>
+        </message>
+        <message>
+            <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
+            <translation>Nur noch %@ GB Speicherplatz frei. Geben Sie Speicherplatz frei, um weiter herunterzuladen.</translation>
         </message>
         <message>
             <source>Only if </source>
@@ -752,8 +812,8 @@
             <translation>Andere Dateien</translation>
         </message>
         <message>
-            <source>Parse error: </source>
-            <translation type="unfinished" />
+            <source>Parse error: %@</source>
+            <translation>Verarbeitungsfehler: %@</translation>
         </message>
         <message>
             <source>Partial file received. The transfer was interrupted. It will retry automatically.</source>
@@ -854,6 +914,10 @@
         <message>
             <source>Print &amp; Graphics</source>
             <translation>Druck &amp; Grafik</translation>
+        </message>
+        <message>
+            <source>Privacy Policy</source>
+            <translation>Datenschutzerklärung</translation>
         </message>
         <message>
             <source>Protocol</source>
@@ -976,6 +1040,10 @@
             <translation>Zeitfenster </translation>
         </message>
         <message>
+            <source>Search...</source>
+            <translation>Suchen...</translation>
+        </message>
+        <message>
             <source>Sector preset</source>
             <translation>Branchenvorlage</translation>
         </message>
@@ -1000,8 +1068,12 @@
             <translation>Parallele Downloads: </translation>
         </message>
         <message>
-            <source>Size mismatch: expected </source>
-            <translation type="unfinished" />
+            <source>Size</source>
+            <translation>Größe</translation>
+        </message>
+        <message>
+            <source>Size mismatch: expected %@, got %@. The file may still be uploading.</source>
+            <translation>Größe stimmt nicht: erwartet %@, erhalten %@. Die Datei wird eventuell noch hochgeladen.</translation>
         </message>
         <message>
             <source>Sleep Behavior</source>
@@ -1028,6 +1100,10 @@
             <translation>Programmstart</translation>
         </message>
         <message>
+            <source>Status</source>
+            <translation>Status</translation>
+        </message>
+        <message>
             <source>Stopped</source>
             <translation>Gestoppt</translation>
         </message>
@@ -1036,8 +1112,16 @@
             <translation>Erfolgreich</translation>
         </message>
         <message>
+            <source>Support</source>
+            <translation>Support</translation>
+        </message>
+        <message>
             <source>Sync &amp; Transfer</source>
             <translation>Abgleich &amp; Übertragung</translation>
+        </message>
+        <message>
+            <source>Sync Log</source>
+            <translation>Abgleichsprotokoll</translation>
         </message>
         <message>
             <source>Sync Now</source>
@@ -1068,6 +1152,18 @@
             <translation>TCP-Verbindung</translation>
         </message>
         <message>
+            <source>Tarnel %1 (build %2)</source>
+            <translation>Tarnel %1 (Build %2)</translation>
+        </message>
+        <message>
+            <source>Tarnel History</source>
+            <translation>Tarnel – Verlauf</translation>
+        </message>
+        <message>
+            <source>Tarnel Log</source>
+            <translation>Tarnel – Protokoll</translation>
+        </message>
+        <message>
             <source>Tarnel Settings</source>
             <translation>Tarnel-Einstellungen</translation>
         </message>
@@ -1092,6 +1188,10 @@
             <translation>Tarnel: Übertragung fehlgeschlagen</translation>
         </message>
         <message>
+            <source>Terms of Service</source>
+            <translation>Nutzungsbedingungen</translation>
+        </message>
+        <message>
             <source>Test Connection</source>
             <translation>Verbindung testen</translation>
         </message>
@@ -1100,8 +1200,8 @@
             <translation>Text-Tag</translation>
         </message>
         <message>
-            <source>The SFTP server's host key has changed since the last connection to </source>
-            <translation type="unfinished" />
+            <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
+            <translation>Der Hostschlüssel des SFTP-Servers hat sich seit der letzten Verbindung zu %@ geändert. Das kann bedeuten, dass jemand die Verbindung abfängt. Ist die Änderung erwartet (der Server wurde neu installiert oder sein Schlüssel ersetzt), entfernen Sie die Zeile für %@ aus %@ und verbinden Sie sich erneut.</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>
@@ -1112,12 +1212,20 @@
             <translation>Dadurch wird die aktuelle Konfiguration mit den empfohlenen Werten für </translation>
         </message>
         <message>
+            <source>Time</source>
+            <translation>Zeit</translation>
+        </message>
+        <message>
             <source>To </source>
             <translation>Bis </translation>
         </message>
         <message>
             <source>Today</source>
             <translation>Heute</translation>
+        </message>
+        <message>
+            <source>Transfer History</source>
+            <translation>Übertragungsverlauf</translation>
         </message>
         <message>
             <source>Type</source>
@@ -1164,16 +1272,16 @@
             <translation>Bei wenig Speicherplatz warnen und pausieren</translation>
         </message>
         <message>
+            <source>Website</source>
+            <translation>Website</translation>
+        </message>
+        <message>
             <source>Wrong username or password</source>
             <translation>Falscher Benutzername oder falsches Passwort</translation>
         </message>
         <message>
             <source>attempts</source>
             <translation>Versuchen</translation>
-        </message>
-        <message>
-            <source>d ago</source>
-            <translation> Tg. her</translation>
         </message>
         <message>
             <source>dead.rule.warning</source>
@@ -1232,10 +1340,6 @@
             <translation>wächst...</translation>
         </message>
         <message>
-            <source>h ago</source>
-            <translation> Std. her</translation>
-        </message>
-        <message>
             <source>invoice</source>
             <translation>Rechnung</translation>
         </message>
@@ -1248,16 +1352,8 @@
             <translation>gerade eben</translation>
         </message>
         <message>
-            <source>min ago</source>
-            <translation>Min. her</translation>
-        </message>
-        <message>
             <source>more</source>
             <translation>weitere</translation>
-        </message>
-        <message>
-            <source>s ago</source>
-            <translation> Sek. her</translation>
         </message>
     </context>
 </TS>

@@ -56,6 +56,26 @@
             <translation> esperando a estabilizarse</translation>
         </message>
         <message>
+            <source>%lld files found</source>
+            <translation>%lld archivos encontrados</translation>
+        </message>
+        <message>
+            <source>%lld min ago</source>
+            <translation>hace %lld min</translation>
+        </message>
+        <message>
+            <source>%lldd ago</source>
+            <translation>hace %lld d</translation>
+        </message>
+        <message>
+            <source>%lldh ago</source>
+            <translation>hace %lld h</translation>
+        </message>
+        <message>
+            <source>%llds ago</source>
+            <translation>hace %lld s</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>»?</translation>
         </message>
@@ -82,6 +102,10 @@
         <message>
             <source>1 file</source>
             <translation>1 archivo</translation>
+        </message>
+        <message>
+            <source>1 file found</source>
+            <translation>1 archivo encontrado</translation>
         </message>
         <message>
             <source>1 folder selected</source>
@@ -160,8 +184,8 @@
             <translation>Acceso denegado a la carpeta remota. Compruebe que la ruta existe y que tiene permiso de lectura.</translation>
         </message>
         <message>
-            <source>Access to '</source>
-            <translation type="unfinished" />
+            <source>Access to '%@' has expired. Please re-select the folder in Settings.</source>
+            <translation>El acceso a «%@» ha caducado. Vuelva a seleccionar la carpeta en los ajustes.</translation>
         </message>
         <message>
             <source>Active</source>
@@ -186,6 +210,10 @@
         <message>
             <source>After </source>
             <translation>Tras </translation>
+        </message>
+        <message>
+            <source>All</source>
+            <translation>Todos</translation>
         </message>
         <message>
             <source>All files</source>
@@ -248,12 +276,12 @@
             <translation>Cancelar</translation>
         </message>
         <message>
-            <source>Cannot connect to port </source>
-            <translation type="unfinished" />
+            <source>Cannot connect to port %lld</source>
+            <translation>No se puede conectar al puerto %lld</translation>
         </message>
         <message>
-            <source>Cannot write to '</source>
-            <translation type="unfinished" />
+            <source>Cannot write to '%@'. Check folder permissions in Finder &gt; Get Info.</source>
+            <translation>No se puede escribir en «%@». Compruebe los permisos de la carpeta.</translation>
         </message>
         <message>
             <source>Cellular</source>
@@ -266,6 +294,10 @@
         <message>
             <source>Clear</source>
             <translation>Quitar</translation>
+        </message>
+        <message>
+            <source>Clear All</source>
+            <translation>Borrar todo</translation>
         </message>
         <message>
             <source>Color</source>
@@ -292,8 +324,8 @@
             <translation>Conexión</translation>
         </message>
         <message>
-            <source>Connection error (code </source>
-            <translation type="unfinished" />
+            <source>Connection error (code %lld)%@. Check your connection settings.</source>
+            <translation>Error de conexión (código %lld)%@. Compruebe los ajustes de la conexión.</translation>
         </message>
         <message>
             <source>Connection failed: </source>
@@ -314,6 +346,10 @@
         <message>
             <source>Continue</source>
             <translation>Continuar</translation>
+        </message>
+        <message>
+            <source>Copy All</source>
+            <translation>Copiar todo</translation>
         </message>
         <message>
             <source>Copy mode: files stay on the server.</source>
@@ -368,8 +404,8 @@
             <translation>Eliminar carpetas remotas vacías</translation>
         </message>
         <message>
-            <source>Delete failed: </source>
-            <translation type="unfinished" />
+            <source>Delete failed: %@</source>
+            <translation>Error al eliminar: %@</translation>
         </message>
         <message>
             <source>Delete files from FTP after download</source>
@@ -382,6 +418,10 @@
         <message>
             <source>Deselect All</source>
             <translation>Deseleccionar todo</translation>
+        </message>
+        <message>
+            <source>Destination</source>
+            <translation>Destino</translation>
         </message>
         <message>
             <source>Destination Folder</source>
@@ -408,12 +448,12 @@
             <translation>Notificaciones de descarga</translation>
         </message>
         <message>
-            <source>Download failed: </source>
-            <translation type="unfinished" />
+            <source>Download failed: %@</source>
+            <translation>Error en la descarga: %@</translation>
         </message>
         <message>
-            <source>Downloaded file '</source>
-            <translation type="unfinished" />
+            <source>Downloaded file '%@' is empty. The remote file may be corrupted or still being written.</source>
+            <translation>El archivo descargado «%@» está vacío. Puede que el archivo remoto esté dañado o que aún se esté escribiendo.</translation>
         </message>
         <message>
             <source>E-commerce</source>
@@ -460,6 +500,10 @@
             <translation>Falló el comando FTP. Compruebe la ruta remota o los permisos de borrado.</translation>
         </message>
         <message>
+            <source>File</source>
+            <translation>Archivo</translation>
+        </message>
+        <message>
             <source>File type</source>
             <translation>Tipo de archivo</translation>
         </message>
@@ -488,8 +532,8 @@
             <translation>Error de carpeta</translation>
         </message>
         <message>
-            <source>Folder not accessible: </source>
-            <translation type="unfinished" />
+            <source>Folder not accessible: %@</source>
+            <translation>Carpeta no accesible: %@</translation>
         </message>
         <message>
             <source>From </source>
@@ -516,8 +560,8 @@
             <translation>Host</translation>
         </message>
         <message>
-            <source>Host '</source>
-            <translation type="unfinished" />
+            <source>Host '%@' not found</source>
+            <translation>No se encontró el host «%@»</translation>
         </message>
         <message>
             <source>IT &amp; Integrations</source>
@@ -570,6 +614,10 @@
         <message>
             <source>Low disk</source>
             <translation>Poco espacio</translation>
+        </message>
+        <message>
+            <source>Made by the Tarnel developers.</source>
+            <translation>Creado por el equipo de Tarnel.</translation>
         </message>
         <message>
             <source>Main folder</source>
@@ -656,6 +704,10 @@
             <translation>No hay conexiones configuradas</translation>
         </message>
         <message>
+            <source>No log entries yet.</source>
+            <translation>Aún no hay entradas en el registro.</translation>
+        </message>
+        <message>
             <source>No minimum</source>
             <translation>Sin mínimo</translation>
         </message>
@@ -678,6 +730,10 @@
         <message>
             <source>No subdirectories found</source>
             <translation>No se encontraron subcarpetas</translation>
+        </message>
+        <message>
+            <source>No transfer history.</source>
+            <translation>No hay historial de transferencias.</translation>
         </message>
         <message>
             <source>None</source>
@@ -706,6 +762,10 @@
         <message>
             <source>Offline</source>
             <translation>Sin conexión</translation>
+        </message>
+        <message>
+            <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
+            <translation>Solo quedan %@ GB de espacio en disco. Libere espacio para seguir descargando.</translation>
         </message>
         <message>
             <source>Only if </source>
@@ -752,8 +812,8 @@
             <translation>Otros archivos</translation>
         </message>
         <message>
-            <source>Parse error: </source>
-            <translation type="unfinished" />
+            <source>Parse error: %@</source>
+            <translation>Error de análisis: %@</translation>
         </message>
         <message>
             <source>Partial file received. The transfer was interrupted. It will retry automatically.</source>
@@ -854,6 +914,10 @@
         <message>
             <source>Print &amp; Graphics</source>
             <translation>Imprenta y diseño gráfico</translation>
+        </message>
+        <message>
+            <source>Privacy Policy</source>
+            <translation>Política de privacidad</translation>
         </message>
         <message>
             <source>Protocol</source>
@@ -976,6 +1040,10 @@
             <translation>Horario </translation>
         </message>
         <message>
+            <source>Search...</source>
+            <translation>Buscar...</translation>
+        </message>
+        <message>
             <source>Sector preset</source>
             <translation>Ajuste por sector</translation>
         </message>
@@ -1000,8 +1068,12 @@
             <translation>Descargas simultáneas: </translation>
         </message>
         <message>
-            <source>Size mismatch: expected </source>
-            <translation type="unfinished" />
+            <source>Size</source>
+            <translation>Tamaño</translation>
+        </message>
+        <message>
+            <source>Size mismatch: expected %@, got %@. The file may still be uploading.</source>
+            <translation>El tamaño no coincide: se esperaban %@ y se recibieron %@. Puede que el archivo aún se esté subiendo.</translation>
         </message>
         <message>
             <source>Sleep Behavior</source>
@@ -1028,6 +1100,10 @@
             <translation>Inicio</translation>
         </message>
         <message>
+            <source>Status</source>
+            <translation>Estado</translation>
+        </message>
+        <message>
             <source>Stopped</source>
             <translation>Detenida</translation>
         </message>
@@ -1036,8 +1112,16 @@
             <translation>Correcto</translation>
         </message>
         <message>
+            <source>Support</source>
+            <translation>Soporte</translation>
+        </message>
+        <message>
             <source>Sync &amp; Transfer</source>
             <translation>Sincronización y transferencia</translation>
+        </message>
+        <message>
+            <source>Sync Log</source>
+            <translation>Registro de sincronización</translation>
         </message>
         <message>
             <source>Sync Now</source>
@@ -1068,6 +1152,18 @@
             <translation>Conexión TCP</translation>
         </message>
         <message>
+            <source>Tarnel %1 (build %2)</source>
+            <translation>Tarnel %1 (compilación %2)</translation>
+        </message>
+        <message>
+            <source>Tarnel History</source>
+            <translation>Tarnel – Historial</translation>
+        </message>
+        <message>
+            <source>Tarnel Log</source>
+            <translation>Tarnel – Registro</translation>
+        </message>
+        <message>
             <source>Tarnel Settings</source>
             <translation>Ajustes de Tarnel</translation>
         </message>
@@ -1092,6 +1188,10 @@
             <translation>Tarnel: error en la transferencia</translation>
         </message>
         <message>
+            <source>Terms of Service</source>
+            <translation>Condiciones del servicio</translation>
+        </message>
+        <message>
             <source>Test Connection</source>
             <translation>Probar conexión</translation>
         </message>
@@ -1100,8 +1200,8 @@
             <translation>Etiqueta de texto</translation>
         </message>
         <message>
-            <source>The SFTP server's host key has changed since the last connection to </source>
-            <translation type="unfinished" />
+            <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
+            <translation>La clave de host del servidor SFTP ha cambiado desde la última conexión a %@. Esto puede significar que alguien está interceptando la conexión. Si el cambio es esperado (se reinstaló el servidor o se sustituyó su clave), elimine la línea de %@ en %@ y vuelva a conectar.</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>
@@ -1112,12 +1212,20 @@
             <translation>Esto sustituirá la configuración actual por los valores recomendados para </translation>
         </message>
         <message>
+            <source>Time</source>
+            <translation>Hora</translation>
+        </message>
+        <message>
             <source>To </source>
             <translation>Hasta las </translation>
         </message>
         <message>
             <source>Today</source>
             <translation>Hoy</translation>
+        </message>
+        <message>
+            <source>Transfer History</source>
+            <translation>Historial de transferencias</translation>
         </message>
         <message>
             <source>Type</source>
@@ -1164,16 +1272,16 @@
             <translation>Avisar y pausar si queda poco espacio en disco</translation>
         </message>
         <message>
+            <source>Website</source>
+            <translation>Sitio web</translation>
+        </message>
+        <message>
             <source>Wrong username or password</source>
             <translation>Usuario o contraseña incorrectos</translation>
         </message>
         <message>
             <source>attempts</source>
             <translation>intentos</translation>
-        </message>
-        <message>
-            <source>d ago</source>
-            <translation> d atrás</translation>
         </message>
         <message>
             <source>dead.rule.warning</source>
@@ -1232,10 +1340,6 @@
             <translation>creciendo...</translation>
         </message>
         <message>
-            <source>h ago</source>
-            <translation> h atrás</translation>
-        </message>
-        <message>
             <source>invoice</source>
             <translation>factura</translation>
         </message>
@@ -1248,16 +1352,8 @@
             <translation>ahora mismo</translation>
         </message>
         <message>
-            <source>min ago</source>
-            <translation>min atrás</translation>
-        </message>
-        <message>
             <source>more</source>
             <translation>más</translation>
-        </message>
-        <message>
-            <source>s ago</source>
-            <translation> s atrás</translation>
         </message>
     </context>
 </TS>

@@ -56,6 +56,26 @@
             <translation> en attente de stabilité</translation>
         </message>
         <message>
+            <source>%lld files found</source>
+            <translation>%lld fichiers trouvés</translation>
+        </message>
+        <message>
+            <source>%lld min ago</source>
+            <translation>il y a %lld min</translation>
+        </message>
+        <message>
+            <source>%lldd ago</source>
+            <translation>il y a %lld j</translation>
+        </message>
+        <message>
+            <source>%lldh ago</source>
+            <translation>il y a %lld h</translation>
+        </message>
+        <message>
+            <source>%llds ago</source>
+            <translation>il y a %lld s</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation> » ?</translation>
         </message>
@@ -82,6 +102,10 @@
         <message>
             <source>1 file</source>
             <translation>1 fichier</translation>
+        </message>
+        <message>
+            <source>1 file found</source>
+            <translation>1 fichier trouvé</translation>
         </message>
         <message>
             <source>1 folder selected</source>
@@ -160,8 +184,8 @@
             <translation>Accès refusé au dossier distant. Vérifiez que le chemin existe et que vous avez le droit de lecture.</translation>
         </message>
         <message>
-            <source>Access to '</source>
-            <translation type="unfinished" />
+            <source>Access to '%@' has expired. Please re-select the folder in Settings.</source>
+            <translation>L'accès à « %@ » a expiré. Veuillez sélectionner à nouveau le dossier dans les réglages.</translation>
         </message>
         <message>
             <source>Active</source>
@@ -186,6 +210,10 @@
         <message>
             <source>After </source>
             <translation>Après </translation>
+        </message>
+        <message>
+            <source>All</source>
+            <translation>Tous</translation>
         </message>
         <message>
             <source>All files</source>
@@ -248,12 +276,12 @@
             <translation>Annuler</translation>
         </message>
         <message>
-            <source>Cannot connect to port </source>
-            <translation type="unfinished" />
+            <source>Cannot connect to port %lld</source>
+            <translation>Impossible de se connecter au port %lld</translation>
         </message>
         <message>
-            <source>Cannot write to '</source>
-            <translation type="unfinished" />
+            <source>Cannot write to '%@'. Check folder permissions in Finder &gt; Get Info.</source>
+            <translation>Impossible d'écrire dans « %@ ». Vérifiez les autorisations du dossier.</translation>
         </message>
         <message>
             <source>Cellular</source>
@@ -266,6 +294,10 @@
         <message>
             <source>Clear</source>
             <translation>Effacer</translation>
+        </message>
+        <message>
+            <source>Clear All</source>
+            <translation>Tout effacer</translation>
         </message>
         <message>
             <source>Color</source>
@@ -292,8 +324,8 @@
             <translation>Connexion</translation>
         </message>
         <message>
-            <source>Connection error (code </source>
-            <translation type="unfinished" />
+            <source>Connection error (code %lld)%@. Check your connection settings.</source>
+            <translation>Erreur de connexion (code %lld)%@. Vérifiez les réglages de la connexion.</translation>
         </message>
         <message>
             <source>Connection failed: </source>
@@ -314,6 +346,10 @@
         <message>
             <source>Continue</source>
             <translation>Continuer</translation>
+        </message>
+        <message>
+            <source>Copy All</source>
+            <translation>Tout copier</translation>
         </message>
         <message>
             <source>Copy mode: files stay on the server.</source>
@@ -368,8 +404,8 @@
             <translation>Supprimer les dossiers distants vides</translation>
         </message>
         <message>
-            <source>Delete failed: </source>
-            <translation type="unfinished" />
+            <source>Delete failed: %@</source>
+            <translation>Échec de la suppression : %@</translation>
         </message>
         <message>
             <source>Delete files from FTP after download</source>
@@ -382,6 +418,10 @@
         <message>
             <source>Deselect All</source>
             <translation>Tout désélectionner</translation>
+        </message>
+        <message>
+            <source>Destination</source>
+            <translation>Destination</translation>
         </message>
         <message>
             <source>Destination Folder</source>
@@ -408,12 +448,12 @@
             <translation>Notifications de téléchargement</translation>
         </message>
         <message>
-            <source>Download failed: </source>
-            <translation type="unfinished" />
+            <source>Download failed: %@</source>
+            <translation>Échec du téléchargement : %@</translation>
         </message>
         <message>
-            <source>Downloaded file '</source>
-            <translation type="unfinished" />
+            <source>Downloaded file '%@' is empty. The remote file may be corrupted or still being written.</source>
+            <translation>Le fichier téléchargé « %@ » est vide. Le fichier distant est peut-être endommagé ou encore en cours d'écriture.</translation>
         </message>
         <message>
             <source>E-commerce</source>
@@ -460,6 +500,10 @@
             <translation>Échec de la commande FTP. Vérifiez le chemin distant ou les droits de suppression.</translation>
         </message>
         <message>
+            <source>File</source>
+            <translation>Fichier</translation>
+        </message>
+        <message>
             <source>File type</source>
             <translation>Type de fichier</translation>
         </message>
@@ -488,8 +532,8 @@
             <translation>Erreur de dossier</translation>
         </message>
         <message>
-            <source>Folder not accessible: </source>
-            <translation type="unfinished" />
+            <source>Folder not accessible: %@</source>
+            <translation>Dossier inaccessible : %@</translation>
         </message>
         <message>
             <source>From </source>
@@ -516,8 +560,8 @@
             <translation>Hôte</translation>
         </message>
         <message>
-            <source>Host '</source>
-            <translation type="unfinished" />
+            <source>Host '%@' not found</source>
+            <translation>Hôte « %@ » introuvable</translation>
         </message>
         <message>
             <source>IT &amp; Integrations</source>
@@ -570,6 +614,10 @@
         <message>
             <source>Low disk</source>
             <translation>Disque presque plein</translation>
+        </message>
+        <message>
+            <source>Made by the Tarnel developers.</source>
+            <translation>Conçu par l'équipe de Tarnel.</translation>
         </message>
         <message>
             <source>Main folder</source>
@@ -656,6 +704,10 @@
             <translation>Aucune connexion configurée</translation>
         </message>
         <message>
+            <source>No log entries yet.</source>
+            <translation>Aucune entrée dans le journal pour l'instant.</translation>
+        </message>
+        <message>
             <source>No minimum</source>
             <translation>Aucun minimum</translation>
         </message>
@@ -678,6 +730,10 @@
         <message>
             <source>No subdirectories found</source>
             <translation>Aucun sous-dossier trouvé</translation>
+        </message>
+        <message>
+            <source>No transfer history.</source>
+            <translation>Aucun historique de transfert.</translation>
         </message>
         <message>
             <source>None</source>
@@ -706,6 +762,10 @@
         <message>
             <source>Offline</source>
             <translation>Hors ligne</translation>
+        </message>
+        <message>
+            <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
+            <translation>Il ne reste que %@ Go d'espace disque. Libérez de l'espace pour continuer les téléchargements.</translation>
         </message>
         <message>
             <source>Only if </source>
@@ -752,8 +812,8 @@
             <translation>Autres fichiers</translation>
         </message>
         <message>
-            <source>Parse error: </source>
-            <translation type="unfinished" />
+            <source>Parse error: %@</source>
+            <translation>Erreur d'analyse : %@</translation>
         </message>
         <message>
             <source>Partial file received. The transfer was interrupted. It will retry automatically.</source>
@@ -854,6 +914,10 @@
         <message>
             <source>Print &amp; Graphics</source>
             <translation>Impression et graphisme</translation>
+        </message>
+        <message>
+            <source>Privacy Policy</source>
+            <translation>Politique de confidentialité</translation>
         </message>
         <message>
             <source>Protocol</source>
@@ -976,6 +1040,10 @@
             <translation>Plage horaire </translation>
         </message>
         <message>
+            <source>Search...</source>
+            <translation>Rechercher...</translation>
+        </message>
+        <message>
             <source>Sector preset</source>
             <translation>Préréglage par secteur</translation>
         </message>
@@ -1000,8 +1068,12 @@
             <translation>Transferts simultanés : </translation>
         </message>
         <message>
-            <source>Size mismatch: expected </source>
-            <translation type="unfinished" />
+            <source>Size</source>
+            <translation>Taille</translation>
+        </message>
+        <message>
+            <source>Size mismatch: expected %@, got %@. The file may still be uploading.</source>
+            <translation>Taille incorrecte : %@ attendus, %@ reçus. Le fichier est peut-être encore en cours d'envoi.</translation>
         </message>
         <message>
             <source>Sleep Behavior</source>
@@ -1028,6 +1100,10 @@
             <translation>Démarrage</translation>
         </message>
         <message>
+            <source>Status</source>
+            <translation>État</translation>
+        </message>
+        <message>
             <source>Stopped</source>
             <translation>Arrêtée</translation>
         </message>
@@ -1036,8 +1112,16 @@
             <translation>Réussi</translation>
         </message>
         <message>
+            <source>Support</source>
+            <translation>Assistance</translation>
+        </message>
+        <message>
             <source>Sync &amp; Transfer</source>
             <translation>Synchronisation et transfert</translation>
+        </message>
+        <message>
+            <source>Sync Log</source>
+            <translation>Journal de synchronisation</translation>
         </message>
         <message>
             <source>Sync Now</source>
@@ -1068,6 +1152,18 @@
             <translation>Connexion TCP</translation>
         </message>
         <message>
+            <source>Tarnel %1 (build %2)</source>
+            <translation>Tarnel %1 (build %2)</translation>
+        </message>
+        <message>
+            <source>Tarnel History</source>
+            <translation>Tarnel – Historique</translation>
+        </message>
+        <message>
+            <source>Tarnel Log</source>
+            <translation>Tarnel – Journal</translation>
+        </message>
+        <message>
             <source>Tarnel Settings</source>
             <translation>Paramètres de Tarnel</translation>
         </message>
@@ -1092,6 +1188,10 @@
             <translation>Tarnel : échec du transfert</translation>
         </message>
         <message>
+            <source>Terms of Service</source>
+            <translation>Conditions d'utilisation</translation>
+        </message>
+        <message>
             <source>Test Connection</source>
             <translation>Tester la connexion</translation>
         </message>
@@ -1100,8 +1200,8 @@
             <translation>Tag texte</translation>
         </message>
         <message>
-            <source>The SFTP server's host key has changed since the last connection to </source>
-            <translation type="unfinished" />
+            <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
+            <translation>La clé d'hôte du serveur SFTP a changé depuis la dernière connexion à %@. Cela peut signifier que quelqu'un intercepte la connexion. Si ce changement est attendu (le serveur a été réinstallé ou sa clé remplacée), supprimez la ligne de %@ dans %@ et reconnectez-vous.</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>
@@ -1112,12 +1212,20 @@
             <translation>La configuration actuelle sera remplacée par les valeurs recommandées pour </translation>
         </message>
         <message>
+            <source>Time</source>
+            <translation>Heure</translation>
+        </message>
+        <message>
             <source>To </source>
             <translation>À </translation>
         </message>
         <message>
             <source>Today</source>
             <translation>Aujourd'hui</translation>
+        </message>
+        <message>
+            <source>Transfer History</source>
+            <translation>Historique des transferts</translation>
         </message>
         <message>
             <source>Type</source>
@@ -1164,16 +1272,16 @@
             <translation>Avertir et suspendre si l'espace disque est faible</translation>
         </message>
         <message>
+            <source>Website</source>
+            <translation>Site web</translation>
+        </message>
+        <message>
             <source>Wrong username or password</source>
             <translation>Nom d'utilisateur ou mot de passe incorrect</translation>
         </message>
         <message>
             <source>attempts</source>
             <translation>tentatives</translation>
-        </message>
-        <message>
-            <source>d ago</source>
-            <translation> j</translation>
         </message>
         <message>
             <source>dead.rule.warning</source>
@@ -1232,10 +1340,6 @@
             <translation>en cours d'écriture...</translation>
         </message>
         <message>
-            <source>h ago</source>
-            <translation> h</translation>
-        </message>
-        <message>
             <source>invoice</source>
             <translation>facture</translation>
         </message>
@@ -1248,16 +1352,8 @@
             <translation>à l'instant</translation>
         </message>
         <message>
-            <source>min ago</source>
-            <translation>min</translation>
-        </message>
-        <message>
             <source>more</source>
             <translation>autres</translation>
-        </message>
-        <message>
-            <source>s ago</source>
-            <translation> s</translation>
         </message>
     </context>
 </TS>

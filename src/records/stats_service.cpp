@@ -115,12 +115,12 @@ std::optional<std::string> StatsService::lastActivityText() const {
     if (s <= 4)
         return localized("just now");
     if (s < 60)
-        return std::to_string(s) + localized("s ago");
+        return localizedFormat("%llds ago", {std::to_string(s)});
     if (s < 3600)
-        return std::to_string(s / 60) + " " + localized("min ago");
+        return localizedFormat("%lld min ago", {std::to_string(s / 60)});
     if (s < 86400)
-        return std::to_string(s / 3600) + localized("h ago");
-    return std::to_string(s / 86400) + localized("d ago");
+        return localizedFormat("%lldh ago", {std::to_string(s / 3600)});
+    return localizedFormat("%lldd ago", {std::to_string(s / 86400)});
 }
 
 std::string StatsService::formatBytes(std::int64_t bytes) {

@@ -56,8 +56,8 @@ std::string curlCodeDescription(int code, const std::string& text) {
         default: {
             // The test is on the untrimmed text: blanks alone still give empty brackets.
             const std::string detail = text.empty() ? "" : " (" + std::string(trimmed(text)) + ")";
-            return localized("Connection error (code " + std::to_string(code) + ")" + detail +
-                             ". Check your connection settings.");
+            return localizedFormat("Connection error (code %lld)%@. Check your connection settings.",
+                                   {std::to_string(code), detail});
         }
     }
 }
@@ -77,47 +77,48 @@ FTPError FTPError::curlExitCode(int code, std::string text) {
 
 FTPError FTPError::hostKeyChanged(const std::string& host,
                                   const std::filesystem::path& knownHostsFile) {
-    std::string description = localized(
-        "The SFTP server's host key has changed since the last connection to " + host +
-        ". This can mean someone is intercepting the connection. If the change is expected "
-        "(the server was reinstalled or its key replaced), remove the line for " +
-        host + " from " + knownHostsFile.string() + " and connect again.");
+    std::string description = localizedFormat(
+        "The SFTP server's host key has changed since the last connection to %@. This can mean "
+        "someone is intercepting the connection. If the change is expected (the server was "
+        "reinstalled or its key replaced), remove the line for %@ from %@ and connect again.",
+        {host, host, knownHostsFile.string()});
     return FTPError(Kind::curlExitCode, CURLE_PEER_FAILED_VERIFICATION, host,
                     std::move(description));
 }
 
 FTPError FTPError::downloadFailed(std::string text) {
-    std::string description = localized("Download failed: " + text);
+    std::string description = localizedFormat("Download failed: %@", {text});
     return FTPError(Kind::downloadFailed, 0, std::move(text), std::move(description));
 }
 
 FTPError FTPError::deleteFailed(std::string text) {
-    std::string description = localized("Delete failed: " + text);
+    std::string description = localizedFormat("Delete failed: %@", {text});
     return FTPError(Kind::deleteFailed, 0, std::move(text), std::move(description));
 }
 
 FTPError FTPError::parseFailed(std::string text) {
-    std::string description = localized("Parse error: " + text);
+    std::string description = localizedFormat("Parse error: %@", {text});
     return FTPError(Kind::parseFailed, 0, std::move(text), std::move(description));
 }
 
 FTPError FTPError::sizeMismatch(std::int64_t expected, std::int64_t got) {
     return FTPError(
         Kind::sizeMismatch, 0, {},
-        localized("Size mismatch: expected " + formatFileByteCount(expected) + ", got " +
-                  formatFileByteCount(got) + ". The file may still be uploading."));
+        localizedFormat("Size mismatch: expected %@, got %@. The file may still be uploading.",
+                        {formatFileByteCount(expected), formatFileByteCount(got)}));
 }
 
 FTPError FTPError::emptyFile(std::string name) {
     std::string description =
-        localized("Downloaded file '" + name +
-                  "' is empty. The remote file may be corrupted or still being written.");
+        localizedFormat("Downloaded file '%@' is empty. The remote file may be corrupted or still "
+                        "being written.",
+                        {name});
     return FTPError(Kind::emptyFile, 0, std::move(name), std::move(description));
 }
 
 FTPError FTPError::localFolderNotWritable(std::string path) {
     std::string description =
-        localized("Cannot write to '" + path + "'. Check folder permissions in Finder > Get Info.");
+        localizedFormat("Cannot write to '%@'. Check folder permissions in Finder > Get Info.", {path});
     return FTPError(Kind::localFolderNotWritable, 0, std::move(path), std::move(description));
 }
 
@@ -125,14 +126,14 @@ FTPError FTPError::insufficientDiskSpace(double availableGB) {
     char figure[64];
     std::snprintf(figure, sizeof figure, "%.1f", availableGB);
     return FTPError(Kind::insufficientDiskSpace, 0, {},
-                    localized(std::string("Only ") + figure +
-                              " GB of disk space remaining. Free up space to continue "
-                              "downloading."));
+                    localizedFormat("Only %@ GB of disk space remaining. Free up space to "
+                                    "continue downloading.",
+                                    {figure}));
 }
 
 FTPError FTPError::bookmarkExpired(std::string path) {
     std::string description =
-        localized("Access to '" + path + "' has expired. Please re-select the folder in Settings.");
+        localizedFormat("Access to '%@' has expired. Please re-select the folder in Settings.", {path});
     return FTPError(Kind::bookmarkExpired, 0, std::move(path), std::move(description));
 }
 

@@ -140,7 +140,7 @@ int FTPService::testConnectionSteps(const TestProgress& progress) {
 
     set(0, TestStepStatus::running);
     if (!resolveHost(config_.host)) {
-        failRow(0, localized("Host '" + config_.host + "' not found"));
+        failRow(0, localizedFormat("Host '%@' not found", {config_.host}));
         throw FTPError::curlExitCode(6, "DNS resolution failed");
     }
     set(0, TestStepStatus::success);
@@ -150,7 +150,7 @@ int FTPService::testConnectionSteps(const TestProgress& progress) {
         client_->probeConnection();
     } catch (const FTPError& error) {
         if (error.curlCode() != CURLE_LOGIN_DENIED) {
-            failRow(1, localized("Cannot connect to port " + std::to_string(config_.port)));
+            failRow(1, localizedFormat("Cannot connect to port %lld", {std::to_string(config_.port)}));
             throw;
         }
     }
@@ -182,12 +182,12 @@ int FTPService::testConnectionSteps(const TestProgress& progress) {
     try {
         count = listFiles().size();
     } catch (...) {
-        failRow(3, localized("Folder not accessible: " + config_.remotePath));
+        failRow(3, localizedFormat("Folder not accessible: %@", {config_.remotePath}));
         throw;
     }
     set(3, TestStepStatus::success,
-        localized(count == 1 ? std::string("1 file found")
-                             : std::to_string(count) + " files found"));
+        count == 1 ? localized("1 file found")
+                   : localizedFormat("%lld files found", {std::to_string(count)}));
     return static_cast<int>(count);
 }
 

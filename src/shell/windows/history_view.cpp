@@ -21,13 +21,13 @@ struct Column {
     int width;
 };
 // "Error" takes what is left.
-constexpr std::array<Column, 7> columns{{{"Time", 60, 66},
-                                         {"Status", 60, 84},
-                                         {"Connection", 60, 110},
-                                         {"File", 120, 170},
-                                         {"Size", 50, 70},
-                                         {"Destination", 80, 150},
-                                         {"Error", 60, 120}}};
+constexpr std::array<Column, 7> columns{{{UI_TEXT("Time"), 60, 66},
+                                         {UI_TEXT("Status"), 60, 84},
+                                         {UI_TEXT("Connection"), 60, 110},
+                                         {UI_TEXT("File"), 120, 170},
+                                         {UI_TEXT("Size"), 50, 70},
+                                         {UI_TEXT("Destination"), 80, 150},
+                                         {UI_TEXT("Error"), 60, 120}}};
 
 constexpr std::array<std::optional<TransferStatus>, 4> pickerStatuses{
     std::nullopt, TransferStatus::success, TransferStatus::error, TransferStatus::retryExhausted};
