@@ -13,10 +13,6 @@ namespace {
 const QString serviceName = QStringLiteral("Tarnel");
 }  // namespace
 
-QtKeyring::QtKeyring() = default;
-
-QtKeyring::~QtKeyring() = default;
-
 bool QtKeyring::isAvailable() const {
     const auto bus = QDBusConnection::sessionBus();
     if (!bus.isConnected() || !bus.interface()) return false;
@@ -44,16 +40,19 @@ void QtKeyring::enqueue(QKeychain::Job* job, const std::string& key, Handler don
     QObject::connect(job, &QKeychain::Job::finished, &context_,
                      [this](QKeychain::Job* j) { finished(j); });
     queue_.push_back({job, std::move(done)});
-    if (queue_.size() == 1) startFront();
+    startNext();
 }
 
-void QtKeyring::startFront() {
+void QtKeyring::startNext() {
+    if (running_ || queue_.empty()) return;
+    running_ = true;
     queue_.front().job->start();
 }
 
 void QtKeyring::finished(QKeychain::Job* job) {
     Pending answered = std::move(queue_.front());
     queue_.pop_front();
+    running_ = false;
     Reply reply;
     const bool deleting = qobject_cast<QKeychain::DeletePasswordJob*>(job) != nullptr;
     reply.ok = job->error() == QKeychain::NoError ||
@@ -65,8 +64,10 @@ void QtKeyring::finished(QKeychain::Job* job) {
     else if (auto* reading = qobject_cast<QKeychain::ReadPasswordJob*>(job))
         reply.secret = reading->textData().toStdString();
     job->deleteLater();
-    if (!queue_.empty()) startFront();
+    // The answer goes out before the next job starts: answers keep the order of the jobs, also
+    // when a job answers at once.
     answered.done(reply);
+    startNext();
     if (queue_.empty() && waiting_) waiting_->quit();
 }
 

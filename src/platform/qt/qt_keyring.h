@@ -18,9 +18,6 @@ namespace tarnel {
 // "Tarnel", keyed as asked. One job runs at a time, the next when it has answered.
 class QtKeyring final : public Keyring {
 public:
-    QtKeyring();
-    ~QtKeyring() override;
-
     // A session bus with a current owner of org.freedesktop.secrets. An owner that the bus would
     // only start on demand does not count: started outside a desktop session it would hold a
     // locked keyring nobody can open.
@@ -37,11 +34,12 @@ private:
     };
 
     void enqueue(QKeychain::Job* job, const std::string& key, Handler done);
-    void startFront();
+    void startNext();
     void finished(QKeychain::Job* job);
 
     QObject context_;  // parent of the jobs, receiver of their answers
-    std::deque<Pending> queue_;
+    std::deque<Pending> queue_;  // the front one runs, once started
+    bool running_ = false;
     QEventLoop* waiting_ = nullptr;  // finish() running
 };
 
