@@ -221,6 +221,10 @@ void ConnectionsManager::startAll() {
         activeFallbackBookmarks_ = bookmarks_.restoreAllFallbacks(list);
     for (const auto& config : connections_())
         if (config.enabled && !config.host.empty()) createEngine(config, !config.autoConnectOnLaunch);
+    // A keyring answers in moments, and the fleet then starts whole, as its callers expect. One
+    // that asks to be unlocked first starts its connections when it answers.
+    if (!awaitingPassword_.empty() && services_.keyring)
+        services_.keyring->finish(std::chrono::seconds(3));
 }
 
 void ConnectionsManager::stopAll() {

@@ -97,6 +97,7 @@ TEST_F(KeyringProgramTest, AnImportedPasswordIsInTheKeyringNotInTheFileAndStillL
     EXPECT_EQ(secrets->lookup(connection.id.toString()), password);
     fetches("invoice.pdf");
     EXPECT_FALSE(passwordInFile());
+    EXPECT_EQ(tarnel.logText().find("No enabled connection"), std::string::npos);
 }
 
 TEST_F(KeyringProgramTest, MovedToAndFromAMachineWithoutAKeyringNothingIsLost) {

@@ -99,8 +99,7 @@ TEST_F(KeyringPasswordsTest, WithoutTheKeyringAKeptPasswordIsNeverOverwrittenAnd
     // Back where the keyring answers, it works as before.
     memoryKeyring.available = true;
     auto back = makeManager();
-    back->startAll();
-    loop.runUntilIdle();
+    back->startAll();  // the fleet starts whole: it waits for the keyring
     ASSERT_EQ(back->engines().count(shop.id), 1u);
     EXPECT_EQ(loginPasswords["shop.example"], shop.password);
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "platform/keyring.h"
-#include "platform/main_loop.h"
+#include "platform/testing/virtual_loop.h"
 
 namespace tarnel {
 
@@ -12,7 +12,7 @@ namespace tarnel {
 // switch it off (no keyring here), make it refuse writes, or keep its answers back.
 class MemoryKeyring final : public Keyring {
 public:
-    explicit MemoryKeyring(MainLoop& loop) : loop_(loop) {}
+    explicit MemoryKeyring(VirtualLoop& loop) : loop_(loop) {}
 
     bool available = true;
     bool refuseWrites = false;
@@ -39,8 +39,7 @@ public:
             return Reply{true, "", ""};
         });
     }
-    // The test runs its loop itself.
-    void finish(std::chrono::milliseconds) override {}
+    void finish(std::chrono::milliseconds) override { loop_.runUntilIdle(); }
 
 private:
     // The job takes effect when it answers, as a real keyring's does.
@@ -49,7 +48,7 @@ private:
         loop_.post([done = std::move(done), job = std::move(job)] { done(job()); });
     }
 
-    MainLoop& loop_;
+    VirtualLoop& loop_;
 };
 
 }  // namespace tarnel
