@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
-#include <cstdlib>
 #include <fstream>
 #include <nlohmann/json.hpp>
 
@@ -27,10 +26,6 @@ struct KeyringProgramTest : ::testing::Test {
     const std::string password = "kr-" + Uuid::random().toString();
     std::optional<TestServer> server;
     ConnectionConfig connection;
-    const std::optional<std::string> busBefore = [] {
-        const char* bus = std::getenv("DBUS_SESSION_BUS_ADDRESS");
-        return bus ? std::optional<std::string>(bus) : std::nullopt;
-    }();
 
     void SetUp() override {
         if (auto missing = SecretService::unavailable()) GTEST_SKIP() << *missing;
@@ -43,10 +38,6 @@ struct KeyringProgramTest : ::testing::Test {
     }
 
     ~KeyringProgramTest() override {
-        if (busBefore)
-            setenv("DBUS_SESSION_BUS_ADDRESS", busBefore->c_str(), 1);
-        else
-            unsetenv("DBUS_SESSION_BUS_ADDRESS");
         server.reset();
         secrets.reset();
         std::error_code ignored;
@@ -54,10 +45,8 @@ struct KeyringProgramTest : ::testing::Test {
     }
 
     // The program started from here finds the keyring's bus, or no bus at all.
-    void withKeyring() { setenv("DBUS_SESSION_BUS_ADDRESS", secrets->busAddress().c_str(), 1); }
-    void withoutKeyring() {
-        setenv("DBUS_SESSION_BUS_ADDRESS", ("unix:path=" + (dir / "no-bus").string()).c_str(), 1);
-    }
+    void withKeyring() { tarnel.useSessionBus(secrets->busAddress()); }
+    void withoutKeyring() { tarnel.useSessionBus(std::nullopt); }
 
     void import() {
         fs::create_directories(dir);

@@ -30,7 +30,9 @@ TarnelProcess::~TarnelProcess() {
 
 pid_t TarnelProcess::spawn(const std::vector<std::string>& args, const std::filesystem::path& out,
                            const std::filesystem::path& err) {
-    auto env = environmentWithout({"XDG_"});
+    auto env = environmentWithout({"XDG_", "DBUS_SESSION_BUS_ADDRESS="});
+    env.push_back("DBUS_SESSION_BUS_ADDRESS=" +
+                  sessionBus_.value_or("unix:path=" + (home_ / "no-session-bus").string()));
     env.push_back("XDG_CONFIG_HOME=" + (home_ / "config").string());
     env.push_back("XDG_DATA_HOME=" + (home_ / "data").string());
     env.push_back("XDG_STATE_HOME=" + (home_ / "state").string());
