@@ -3,6 +3,7 @@
 #include "platform/qt/dbus_notifier.h"
 #include "platform/qt/logind_inhibitor.h"
 #include "platform/qt/logind_sleep_monitor.h"
+#include "platform/qt/qt_keyring.h"
 #include "platform/qt/qt_network_monitor.h"
 #include "records/partial_download_tracker.h"
 
@@ -21,20 +22,24 @@ AppServices::AppServices(const AppPaths& paths, std::unique_ptr<SoundPlayer> sou
       sleepMonitor_(std::make_unique<LogindSleepMonitor>()),
       soundPlayer_(std::move(soundPlayer)),
       networkMonitor_(std::make_unique<QtNetworkMonitor>()),
-      sleepInhibitor_(std::make_unique<LogindInhibitor>()) {
+      sleepInhibitor_(std::make_unique<LogindInhibitor>()),
+      keyring_(std::make_unique<QtKeyring>()) {
     if (logEcho) logService_.setEcho(std::move(logEcho));
     std::error_code ignored;
     std::filesystem::create_directories(paths.historyFile.parent_path(), ignored);
     manager_ = std::make_shared<ConnectionsManager>(FleetServices{
         runtime_, settingsStore_, settings_, logService_, statsService_, historyService_,
         notifications_, *sleepMonitor_, *soundPlayer_, paths.partialsFile, paths.knownHostsFile,
-        networkMonitor_.get(), sleepInhibitor_.get()});
+        networkMonitor_.get(), sleepInhibitor_.get(), keyring_.get()});
 }
 
 AppServices::~AppServices() = default;
 
 void AppServices::shutdown() {
     manager_->stopAll();
+    // A password the keyring has not confirmed stays in the settings file: waiting longer only
+    // delays the exit.
+    keyring_->finish(std::chrono::seconds(10));
     logService_.flush();
     historyService_.flush();
     manager_->partialTracker().flush();

@@ -7,6 +7,7 @@
 #include "app/app_paths.h"
 #include "fleet/connections_manager.h"
 #include "platform/clock.h"
+#include "platform/keyring.h"
 #include "platform/network_monitor.h"
 #include "platform/notifier.h"
 #include "platform/qt/qt_main_loop.h"
@@ -42,7 +43,8 @@ public:
     SoundPlayer& soundPlayer() { return *soundPlayer_; }
     const Clock& clock() const { return clock_; }
 
-    // Stops the fleet and waits until the log, the history and the partial records are on disk.
+    // Stops the fleet and waits until the log, the history, the partial records and the
+    // passwords on their way into the keyring are stored.
     // Transfers under way are not waited for: their temporary files and records are what the
     // next start resumes from.
     void shutdown();
@@ -64,6 +66,7 @@ private:
     std::unique_ptr<SoundPlayer> soundPlayer_;
     std::unique_ptr<NetworkMonitor> networkMonitor_;
     std::unique_ptr<SleepInhibitor> sleepInhibitor_;
+    std::unique_ptr<Keyring> keyring_;
     std::shared_ptr<ConnectionsManager> manager_;
 };
 

@@ -237,10 +237,13 @@ ConnectionConfig decodeConnectionConfig(const nlohmann::ordered_json& json) {
     return c;
 }
 
-std::string encodeConnectionList(const std::vector<ConnectionConfig>& configs) {
+std::string encodeConnectionList(const std::vector<ConnectionConfig>& configs,
+                                 const std::set<Uuid>& passwordsInKeyring) {
     Json list = Json::array();
-    for (const ConnectionConfig& config : configs)
+    for (const ConnectionConfig& config : configs) {
         list.push_back(encodeConnectionConfig(config));
+        if (passwordsInKeyring.contains(config.id)) list.back()[passwordInKeyringKey] = true;
+    }
     return list.dump();
 }
 
@@ -263,6 +266,9 @@ DecodedConnectionList decodeReadableConnections(std::string_view jsonText) {
     for (std::size_t i = 0; i < list.size(); ++i) {
         try {
             decoded.connections.push_back(decodeConnectionConfig(list[i]));
+            const Json* marked = optionalField(list[i], passwordInKeyringKey);
+            if (marked && marked->is_boolean() && marked->get<bool>())
+                decoded.passwordsInKeyring.insert(decoded.connections.back().id);
         } catch (const ConfigDecodeError& e) {
             decoded.problems.push_back("record " + std::to_string(i) + ": " + e.what());
         }

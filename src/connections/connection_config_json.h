@@ -1,6 +1,7 @@
 #pragma once
 
 #include <nlohmann/json.hpp>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -24,8 +25,14 @@ nlohmann::ordered_json encodeConnectionConfig(const ConnectionConfig& config);
 // ConfigDecodeError.
 ConnectionConfig decodeConnectionConfig(const nlohmann::ordered_json& json);
 
-// The JSON array under which the connection list is stored.
-std::string encodeConnectionList(const std::vector<ConnectionConfig>& configs);
+// The key that marks a stored record whose password is kept in the desktop's keyring (its own
+// `password` then empty). No field of the record: the list's storage sets and reads it.
+inline constexpr const char* passwordInKeyringKey = "passwordInKeyring";
+
+// The JSON array under which the connection list is stored; the records of `passwordsInKeyring`
+// are marked.
+std::string encodeConnectionList(const std::vector<ConnectionConfig>& configs,
+                                 const std::set<Uuid>& passwordsInKeyring = {});
 // Throws ConfigDecodeError for text that is no JSON array or a record that fails.
 std::vector<ConnectionConfig> decodeConnectionList(std::string_view jsonText);
 
@@ -34,6 +41,7 @@ std::vector<ConnectionConfig> decodeConnectionList(std::string_view jsonText);
 struct DecodedConnectionList {
     std::vector<ConnectionConfig> connections;
     std::vector<std::string> problems;
+    std::set<Uuid> passwordsInKeyring;  // the marked records among `connections`
 };
 DecodedConnectionList decodeReadableConnections(std::string_view jsonText);
 

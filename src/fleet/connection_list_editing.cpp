@@ -33,6 +33,7 @@ void ConnectionsManager::updateConnection(const ConnectionConfig& config) {
     connections_.set(std::move(list));
     saveConnections();
     // Every edit restarts the engine, unpaused, whatever field it touched.
+    awaitingPassword_.erase(config.id);
     if (auto engine = engines_.find(config.id); engine != engines_.end()) {
         engine->second->stop();
         engines_.erase(engine);
@@ -44,6 +45,7 @@ void ConnectionsManager::updateConnection(const ConnectionConfig& config) {
 }
 
 void ConnectionsManager::removeConnection(const Uuid& id) {
+    awaitingPassword_.erase(id);
     if (auto engine = engines_.find(id); engine != engines_.end()) {
         engine->second->stop();
         engines_.erase(engine);

@@ -38,6 +38,8 @@ ConnectionsManager::ConnectionsManager(FleetServices services, RemoteFactory mak
                       services_.globalSettings, *partialTracker_,
                       services_.notifications,  services_.sleepMonitor,
                       services_.soundPlayer},
+      passwords_(services_.keyring, services_.logService, [this] { saveConnections(); },
+                 [this](const Uuid& id, const Keyring::Reply& reply) { passwordRead(id, reply); }),
       bookmarks_(services_.settingsStore) {
     if (!makeRemote_)
         makeRemote_ = [this](const ConnectionConfig& config) { return makeCurlRemote(config); };
@@ -71,6 +73,7 @@ void ConnectionsManager::loadConnections() {
     try {
         auto decoded = decodeReadableConnections(*stored);
         connections_.set(std::move(decoded.connections));
+        passwords_.load(std::move(decoded.passwordsInKeyring));
         problems = std::move(decoded.problems);
     } catch (const ConfigDecodeError& e) {
         problems = {e.what()};
@@ -93,10 +96,45 @@ void ConnectionsManager::loadConnections() {
 }
 
 void ConnectionsManager::saveConnections() {
-    services_.settingsStore.setValue(storageKey, encodeConnectionList(connections_()));
+    const auto stored = passwords_.store(connections_());
+    services_.settingsStore.setValue(storageKey, encodeConnectionList(stored, passwords_.inKeyring()));
+}
+
+void ConnectionsManager::passwordRead(const Uuid& id, const Keyring::Reply& reply) {
+    const auto awaiting = awaitingPassword_.find(id);
+    const auto* config = findConnection(id);
+    if (reply.ok && config) {
+        // Only in memory: the stored record keeps it in the keyring.
+        auto list = connections_();
+        for (auto& c : list)
+            if (c.id == id) c.password = reply.secret;
+        connections_.set(std::move(list));
+        config = findConnection(id);
+    }
+    if (awaiting == awaitingPassword_.end()) return;
+    const bool startPaused = awaiting->second;
+    awaitingPassword_.erase(awaiting);
+    if (!config) return;
+    if (reply.ok) {
+        createEngine(*config, startPaused);
+        return;
+    }
+    // Logging in with an empty password would only fail, and count against the account.
+    services_.logService.log(
+        "[" + config->name + "] Could not read the password from the desktop's keyring (" +
+            reply.error +
+            "); the connection does not start. Unlock the keyring or start Tarnel in the desktop "
+            "session that holds it, or enter the password again in the connection's settings or "
+            "with 'tarnel --import FILE'",
+        LogLevel::error);
 }
 
 void ConnectionsManager::createEngine(const ConnectionConfig& config, bool startPaused) {
+    if (!passwords_.isKnown(config.id)) {
+        awaitingPassword_[config.id] = startPaused;
+        passwords_.request(config.id);
+        return;
+    }
     // One tracker per connection for the life of the fleet: an engine replaced by an edit books
     // its last transfers where the new one looks.
     auto& tracker = downloadTrackers_[config.id];
@@ -183,11 +221,16 @@ void ConnectionsManager::startAll() {
         activeFallbackBookmarks_ = bookmarks_.restoreAllFallbacks(list);
     for (const auto& config : connections_())
         if (config.enabled && !config.host.empty()) createEngine(config, !config.autoConnectOnLaunch);
+    // A keyring answers in moments, and the fleet then starts whole, as its callers expect. One
+    // that asks to be unlocked first starts its connections when it answers.
+    if (!awaitingPassword_.empty() && services_.keyring)
+        services_.keyring->finish(std::chrono::seconds(3));
 }
 
 void ConnectionsManager::stopAll() {
     for (auto& [id, engine] : engines_) engine->stop();
     engines_.clear();
+    awaitingPassword_.clear();
     cancellables_.clear();
     if (networkMonitor_) networkMonitor_->cancel();
     networkMonitor_ = nullptr;

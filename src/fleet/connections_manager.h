@@ -16,6 +16,8 @@
 #include "engine/remote_service.h"
 #include "engine/sync_engine.h"
 #include "fleet/bookmark_manager.h"
+#include "fleet/keyring_passwords.h"
+#include "platform/keyring.h"
 #include "platform/network_monitor.h"
 #include "platform/observable.h"
 #include "platform/settings_store.h"
@@ -42,6 +44,8 @@ struct FleetServices {
     // inhibitor idle sleep is never held off.
     NetworkMonitor* networkMonitor = nullptr;
     SleepInhibitor* sleepInhibitor = nullptr;
+    // The desktop's keyring; without one, passwords stay in the settings file.
+    Keyring* keyring = nullptr;
 };
 
 // Makes the remote an engine talks to. The program's default speaks libcurl; tests may serve
@@ -62,6 +66,8 @@ public:
     ConnectionsManager(const ConnectionsManager&) = delete;
     ConnectionsManager& operator=(const ConnectionsManager&) = delete;
 
+    // The list lives in the settings file; its passwords in the desktop's keyring where one
+    // answers.
     void loadConnections();
     void saveConnections();
 
@@ -136,7 +142,9 @@ public:
     const FleetServices& services() const { return services_; }
 
 private:
+    // A connection whose password is still in the keyring starts once it has been read.
     void createEngine(const ConnectionConfig& config, bool startPaused);
+    void passwordRead(const Uuid& id, const Keyring::Reply& reply);
     const ConnectionConfig* findConnection(const Uuid& id) const;
     void recomputeAggregates();
     std::unique_ptr<RemoteService> makeCurlRemote(const ConnectionConfig& config) const;
@@ -164,6 +172,9 @@ private:
     Observable<bool> isPreventingSleep_{false};
     Observable<double> freeDiskSpaceGB_{0.0};
     Observable<std::string> networkType_{"Unknown"};
+
+    KeyringPasswords passwords_;
+    std::unordered_map<Uuid, bool> awaitingPassword_;  // engines to start, paused or not
 
     std::unordered_map<Uuid, std::shared_ptr<SyncEngine>> engines_;
     std::unordered_map<Uuid, std::shared_ptr<DownloadTracker>> downloadTrackers_;

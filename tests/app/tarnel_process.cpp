@@ -1,8 +1,6 @@
 #include "tarnel_process.h"
 
-#include <fcntl.h>
 #include <signal.h>
-#include <spawn.h>
 #include <sys/wait.h>
 
 #include <fstream>
@@ -10,7 +8,7 @@
 #include <stdexcept>
 #include <thread>
 
-extern char** environ;
+#include "servers/child_process.h"
 
 namespace tarnel::testing {
 
@@ -32,32 +30,15 @@ TarnelProcess::~TarnelProcess() {
 
 pid_t TarnelProcess::spawn(const std::vector<std::string>& args, const std::filesystem::path& out,
                            const std::filesystem::path& err) {
-    std::vector<std::string> env;
-    for (char** e = environ; *e; ++e) {
-        std::string_view v(*e);
-        if (!v.starts_with("XDG_")) env.emplace_back(v);
-    }
+    auto env = environmentWithout({"XDG_", "DBUS_SESSION_BUS_ADDRESS="});
+    env.push_back("DBUS_SESSION_BUS_ADDRESS=" +
+                  sessionBus_.value_or("unix:path=" + (home_ / "no-session-bus").string()));
     env.push_back("XDG_CONFIG_HOME=" + (home_ / "config").string());
     env.push_back("XDG_DATA_HOME=" + (home_ / "data").string());
     env.push_back("XDG_STATE_HOME=" + (home_ / "state").string());
     std::vector<std::string> argv{TARNEL_BINARY};
     argv.insert(argv.end(), args.begin(), args.end());
-    std::vector<char*> cargv, cenv;
-    for (auto& a : argv) cargv.push_back(a.data());
-    cargv.push_back(nullptr);
-    for (auto& e : env) cenv.push_back(e.data());
-    cenv.push_back(nullptr);
-
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, 1, out.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    posix_spawn_file_actions_addopen(&actions, 2, err.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    pid_t pid = -1;
-    int rc = posix_spawn(&pid, argv[0].c_str(), &actions, nullptr, cargv.data(), cenv.data());
-    posix_spawn_file_actions_destroy(&actions);
-    if (rc != 0) throw std::runtime_error("cannot start " + argv[0]);
-    return pid;
+    return spawnChild(argv, env, "/dev/null", out, err);
 }
 
 TarnelProcess::Finished TarnelProcess::run(const std::vector<std::string>& args) {

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,9 @@ public:
     std::string logText() const;  // the log file
     std::filesystem::path settingsFile() const;
     const std::filesystem::path& home() const { return home_; }
+    // The session bus the program finds from its next start: none unless a test gives one, so
+    // that a run never reaches the desktop's keyring or notifications.
+    void useSessionBus(std::optional<std::string> address) { sessionBus_ = std::move(address); }
 
     // Waits (for real: this is another process) until `done` holds, at most `limit`.
     static bool waitFor(const std::function<bool()>& done,
@@ -41,6 +45,7 @@ private:
                 const std::filesystem::path& err);
 
     std::filesystem::path home_;
+    std::optional<std::string> sessionBus_;
     pid_t pid_ = -1;
 };
 

@@ -11,11 +11,13 @@
 namespace tarnel::testing {
 
 // The manager over remotes in memory, one server per host name, with the network scripted by
-// the test and idle sleep held by `inhibitor`, if any.
+// the test, idle sleep held by `inhibitor` and passwords kept in `keyring`, if any.
 struct FleetFixture : EngineFixture {
     std::map<std::string, std::shared_ptr<MemoryServer>> servers;
+    std::map<std::string, std::string> loginPasswords;  // host: the password its last remote got
     ScriptedNetworkMonitor monitor;
     SleepInhibitor* inhibitor = nullptr;
+    Keyring* keyring = nullptr;
 
     std::shared_ptr<ConnectionsManager> makeManager() {
         FleetServices services{runtime,
@@ -30,9 +32,11 @@ struct FleetFixture : EngineFixture {
                                dir / "partials-fleet.json",
                                dir / "known_hosts",
                                &monitor,
-                               inhibitor};
+                               inhibitor,
+                               keyring};
         return std::make_shared<ConnectionsManager>(
             services, [this](const ConnectionConfig& c) -> std::unique_ptr<RemoteService> {
+                loginPasswords[c.host] = c.password;
                 auto& s = servers[c.host];
                 if (!s)
                     s = std::make_shared<MemoryServer>();
