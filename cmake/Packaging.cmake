@@ -1,6 +1,7 @@
 # The Debian package of what the install rules install: `cpack -G DEB` in the build folder
 # (or `cmake --build build --target package`, or scripts/package) writes tarnel_<version>_<arch>.deb.
-set(TARNEL_PACKAGE_MAINTAINER "Tarnel developers <tarnel@localhost>"
+# The addresses are configured once, beside the about window that shows them.
+set(TARNEL_PACKAGE_MAINTAINER "Tarnel developers <${TARNEL_SUPPORT_EMAIL}>"
     CACHE STRING "The Maintainer field of the Debian package")
 
 set(CPACK_GENERATOR DEB)
@@ -22,9 +23,7 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
-if(PROJECT_HOMEPAGE_URL)
-    set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${PROJECT_HOMEPAGE_URL})
-endif()
+set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${TARNEL_WEBSITE})
 # The libraries the program links come from dpkg-shlibdeps. What it loads or starts at run time
 # is named here: Qt's platform plugins (the X11 one; the Wayland one where the desktop runs
 # Wayland), xdg-open and gio for the post-download actions that open a document or start an
