@@ -1,10 +1,6 @@
 // tarnel: the tray application, the headless runner and the connection import.
-#include <sys/signalfd.h>
-#include <unistd.h>
-
 #include <QCoreApplication>
 #include <QSocketNotifier>
-#include <csignal>
 #include <cstdio>
 #include <iostream>
 
@@ -15,6 +11,7 @@
 #include "app/instance_channel.h"
 #include "app/instance_lock.h"
 #include "app/instance_requests.h"
+#include "app/stop_signals.h"
 #include "app/tray_application.h"
 #include "connections/connection_config_json.h"
 #include "platform/qt/qt_settings_store.h"
@@ -26,17 +23,6 @@ class SilentSoundPlayer final : public tarnel::SoundPlayer {
 public:
     void play(const std::string&) override {}
 };
-
-// SIGINT and SIGTERM arrive as a readable descriptor on the main loop, so that stopping runs
-// there like any other event. Blocked first, before any thread exists that could take them.
-int blockStopSignals() {
-    sigset_t set;
-    sigemptyset(&set);
-    sigaddset(&set, SIGINT);
-    sigaddset(&set, SIGTERM);
-    pthread_sigmask(SIG_BLOCK, &set, nullptr);
-    return signalfd(-1, &set, SFD_CLOEXEC);
-}
 
 }  // namespace
 
@@ -64,7 +50,8 @@ int main(int argc, char** argv) {
         }
         return 0;
     }
-    if (!options.headless && !options.importFile) return runTrayApplication(argc, argv, paths);
+    if (!options.headless && !options.importFile)
+        return runTrayApplication(argc, argv, paths, blockStopSignals());
 
     // A file that does not read imports nothing, before anything is built.
     ConnectionImport import;
@@ -138,10 +125,7 @@ int main(int argc, char** argv) {
 
     QSocketNotifier stopNotifier(signals, QSocketNotifier::Read);
     QObject::connect(&stopNotifier, &QSocketNotifier::activated, &app, [&] {
-        signalfd_siginfo info{};
-        [[maybe_unused]] auto n = ::read(signals, &info, sizeof info);
-        services.logService().log(info.ssi_signo == SIGINT ? "Interrupted, stopping"
-                                                           : "Terminated, stopping");
+        services.logService().log(takeStopSignal(signals));
         services.shutdown();
         // Transfers still running end with the process; their temporary files and records
         // are what the next start resumes from.

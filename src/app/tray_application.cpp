@@ -1,6 +1,7 @@
 #include "app/tray_application.h"
 
 #include <QApplication>
+#include <QSocketNotifier>
 #include <iostream>
 
 #include "app/app_delegate.h"
@@ -8,12 +9,13 @@
 #include "app/instance_channel.h"
 #include "app/instance_lock.h"
 #include "app/instance_requests.h"
+#include "app/stop_signals.h"
 #include "shell/icons/shell_resources.h"
 #include "shell/icons/symbol_icon.h"
 
 namespace tarnel {
 
-int runTrayApplication(int argc, char** argv, const AppPaths& paths) {
+int runTrayApplication(int argc, char** argv, const AppPaths& paths, int stopSignals) {
     QApplication app(argc, argv);
     // One fleet per set of stores: a second launch shows the running one's popup.
     const InstanceLock lock(paths.instanceLockFile);
@@ -48,6 +50,14 @@ int runTrayApplication(int argc, char** argv, const AppPaths& paths) {
         return importRequest(delegate.services(), payload);
     });
     listenForLaterLaunches(channel, delegate.services().logService());
+
+    // A stop from the session or `kill` quits as the menu's Quit does: the fleet stops and the
+    // stores are written.
+    QSocketNotifier stopNotifier(stopSignals, QSocketNotifier::Read);
+    QObject::connect(&stopNotifier, &QSocketNotifier::activated, &app, [&] {
+        delegate.services().logService().log(takeStopSignal(stopSignals));
+        QApplication::quit();
+    });
     return app.exec();
 }
 

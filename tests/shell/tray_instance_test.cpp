@@ -1,5 +1,6 @@
 // The tray application as a person starts it: a second launch shows the running one's popup
-// and exits, and an import made meanwhile lands in the running fleet.
+// and exits, an import made meanwhile lands in the running fleet, and a stop from the session
+// quits it cleanly.
 #include <gtest/gtest.h>
 #include <signal.h>
 
@@ -45,8 +46,10 @@ TEST(TrayInstance, ALaterLaunchShowsTheRunningOneAndHandsItsImportOver) {
         return first.logText().find("Imported 1 connection(s): 1 added") != std::string::npos;
     })) << first.logText();
 
+    // Stopped by the session, it quits as its menu's Quit does.
     first.signal(SIGTERM);
-    first.wait();
+    EXPECT_EQ(first.wait(), 0);
+    EXPECT_NE(first.logText().find("Terminated, stopping"), std::string::npos) << first.logText();
     std::error_code ignored;
     fs::remove_all(dir, ignored);
 }
