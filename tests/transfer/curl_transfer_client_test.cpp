@@ -142,9 +142,7 @@ INSTANTIATE_TEST_SUITE_P(Servers, ClientTest,
                                            ServerProtocol::sftp),
                          protocolLabel);
 
-class FtpClientTest : public TransferTest {
-    ServerProtocol protocol() const override { return ServerProtocol::ftp; }
-};
+using FtpClientTest = On<TransferTest, ServerProtocol::ftp>;
 
 TEST_F(FtpClientTest, headersCarryTheSizeOfAnEncodedName) {
     write(root / "in" / "a b%.txt", std::string(42, 'x'));
@@ -162,9 +160,7 @@ TEST_F(FtpClientTest, tlsAskedOfAPlainServerIsRefused) {
         CURLE_USE_SSL_FAILED);
 }
 
-class FtpsClientTest : public TransferTest {
-    ServerProtocol protocol() const override { return ServerProtocol::ftps; }
-};
+using FtpsClientTest = On<TransferTest, ServerProtocol::ftps>;
 
 TEST_F(FtpsClientTest, anUntrustedCertificateIsRefusedWithItsSentence) {
     auto config = server->connectionConfig();
@@ -176,9 +172,7 @@ TEST_F(FtpsClientTest, anUntrustedCertificateIsRefusedWithItsSentence) {
               "expired.");
 }
 
-class SftpClientTest : public TransferTest {
-    ServerProtocol protocol() const override { return ServerProtocol::sftp; }
-};
+using SftpClientTest = On<TransferTest, ServerProtocol::sftp>;
 
 TEST_F(SftpClientTest, hostKeysAreTrustedOnFirstUseAndAChangeIsRefused) {
     const auto config = server->connectionConfig();

@@ -6,10 +6,8 @@ namespace tarnel {
 namespace {
 
 TEST(FTPError, codesDecideTheWordsNotTheirText) {
-    EXPECT_EQ(FTPError::curlExitCode(19, "x").errorDescription(),
+    EXPECT_EQ(FTPError::curlExitCode(19, "whatever the server said").errorDescription(),
               "Partial file received. The transfer was interrupted. It will retry automatically.");
-    EXPECT_EQ(FTPError::curlExitCode(67, "whatever the server said").errorDescription(),
-              "Authentication failed. Check your username and password.");
     EXPECT_EQ(FTPError::curlExitCode(9, "").errorDescription(),
               "Access denied to the remote folder. Check that the path exists and you have read "
               "permission.");

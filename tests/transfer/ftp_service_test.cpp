@@ -130,9 +130,7 @@ struct Rows {
 
 using S = TestStepStatus;
 
-class ConnectionTest : public ServiceTest {
-    ServerProtocol protocol() const override { return ServerProtocol::ftp; }
-};
+using ConnectionTest = On<ServiceTest, ServerProtocol::ftp>;
 
 TEST_F(ConnectionTest, aLiveServerPassesEveryRow) {
     write(root / "one.txt", "1");

@@ -63,15 +63,13 @@ protected:
 };
 
 inline std::string protocolLabel(const ::testing::TestParamInfo<testing::ServerProtocol>& info) {
-    switch (info.param) {
-        case testing::ServerProtocol::ftp:
-            return "ftp";
-        case testing::ServerProtocol::ftps:
-            return "ftps";
-        case testing::ServerProtocol::sftp:
-            return "sftp";
-    }
-    return "unknown";
+    return testing::serverProtocolName(info.param);
 }
+
+// `Base` with its server fixed to one protocol, for behaviour only that protocol has.
+template <class Base, testing::ServerProtocol protocol_>
+class On : public Base {
+    testing::ServerProtocol protocol() const override { return protocol_; }
+};
 
 }  // namespace tarnel
