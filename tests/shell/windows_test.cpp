@@ -13,6 +13,7 @@
 #include "shell/windows/about_view.h"
 #include "shell/windows/history_view.h"
 #include "shell/windows/log_view.h"
+#include "temporary_paths.h"
 
 namespace tarnel {
 namespace {
@@ -189,13 +190,6 @@ TEST(AboutWindow, ShowsTheVersionAndBuildAndLinksToTheSiteAndSupport) {
                                     QStringLiteral("https://tarnel.test/privacy"),
                                     QStringLiteral("https://tarnel.test/terms"),
                                     QStringLiteral("mailto:help@tarnel.test")}));
-}
-
-AppPaths pathsIn(const QTemporaryDir& dir) {
-    const std::filesystem::path root = dir.path().toStdString();
-    return {root / "Tarnel.conf",  root / "autostart" / "tarnel.desktop", root / "history.json",
-            root / "partials.json", root / "known_hosts", root / "Tarnel.log", root / "instance.lock",
-            root / "instance.socket"};
 }
 
 // Offscreen there is no tray, so the popover opens as a window at once.
