@@ -130,10 +130,13 @@ TEST_F(WindowsTest, HistoryFiltersByStatusAndSearchAndSaysWhenNothingMatches) {
     view.show();
     EXPECT_TRUE(view.showsEmptyNote());
 
+    // Transfers that come while the window is closed are there when it opens again.
+    view.hide();
     history.add(transfer("invoice-7781.pdf", "Shop orders", "ftp.shop.test", TransferStatus::success, 1023));
     history.add(transfer("IMG_0412.raw", "Studio uploads", "sftp.studio.test", TransferStatus::error, 1024));
     history.add(transfer("results.csv", "Lab", "lab.test", TransferStatus::retryExhausted, 5'767'168));
     loop.runUntilIdle();
+    view.show();
     using Files = std::vector<std::string>;
     EXPECT_EQ(shownFiles(view), (Files{"2024-03-07_results.csv", "2024-03-07_IMG_0412.raw",
                                         "2024-03-07_invoice-7781.pdf"}));

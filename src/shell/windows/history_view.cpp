@@ -97,7 +97,15 @@ HistoryView::HistoryView(HistoryService& historyService, const Clock& clock)
         searchText_ = text.toStdString();
         refresh();
     });
-    subscription_ = historyService_.entries().subscribe([this](const auto&) { refresh(); });
+    // Every placed file changes the history: a hidden window catches up when it is shown.
+    subscription_ = historyService_.entries().subscribe([this](const auto&) {
+        if (isVisible()) refresh();
+    });
+}
+
+void HistoryView::showEvent(QShowEvent* event) {
+    refresh();
+    QWidget::showEvent(event);
 }
 
 void HistoryView::refresh() {

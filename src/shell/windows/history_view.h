@@ -30,6 +30,9 @@ public:
     const QTableWidget& rows() const { return *rows_; }
     bool showsEmptyNote() const { return body_->currentWidget() == emptyNote_; }
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void refresh();
 

@@ -63,10 +63,14 @@ LogView::LogView(LogService& logService, const Clock& clock)
     body_->addWidget(rows_);
     layout->addWidget(body_, 1);
 
-    subscription_ = logService_.entries().subscribe([this](const auto& entries) { showEntries(entries); });
+    // Every transfer writes several lines: a hidden window catches up when it is shown.
+    subscription_ = logService_.entries().subscribe([this](const auto& entries) {
+        if (isVisible()) showEntries(entries);
+    });
 }
 
 void LogView::showEvent(QShowEvent* event) {
+    showEntries(logService_.entries()());
     QWidget::showEvent(event);
     // Entries that came while the window was closed were scrolled before it had a size.
     QTimer::singleShot(0, rows_, [rows = rows_] { rows->scrollToBottom(); });
