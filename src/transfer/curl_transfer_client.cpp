@@ -127,16 +127,16 @@ void CurlTransferClient::fail(CURLcode code) const {
     throw FTPError::curlExitCode(code, curl_easy_strerror(code));
 }
 
-CURLcode CurlTransferClient::perform(CURL* h) {
-    const CURLcode code = curl_easy_perform(h);
+CURLcode CurlTransferClient::perform(CurlSession& session) {
+    const CURLcode code = session.perform();
     long opened = 0;
-    curl_easy_getinfo(h, CURLINFO_NUM_CONNECTS, &opened);
+    curl_easy_getinfo(session.easy(), CURLINFO_NUM_CONNECTS, &opened);
     connectionsOpened_ += opened;
     return code;
 }
 
 CURLcode CurlTransferClient::perform(EasyHandlePool::Lease& lease) {
-    const CURLcode code = perform(lease.get());
+    const CURLcode code = perform(*lease.get());
     if (code != CURLE_OK) {
         // One refused CWD or a cut connection can leave the session where every later
         // operation fails; a fresh login costs little beside that.
@@ -149,7 +149,7 @@ CURL* CurlTransferClient::handleOf(const EasyHandlePool::Lease& lease) {
     if (!lease) {
         throw FTPError::curlExitCode(-1, "Failed to initialize libcurl");
     }
-    return lease.get();
+    return lease.get()->easy();
 }
 
 std::string CurlTransferClient::readText(const std::string& url, bool namesOnly, bool headersOnly) {
@@ -197,6 +197,10 @@ void CurlTransferClient::download(const std::string& url, const std::filesystem:
     }
     if (resumeFrom > 0) {
         curl_easy_setopt(h, CURLOPT_RESUME_FROM_LARGE, static_cast<curl_off_t>(resumeFrom));
+    } else if (isFTPFamily(config_.transferProtocol)) {
+        // No SIZE before RETR: one round trip less per file. The listing gave the size, and the
+        // caller checks the file against it; a resume still asks, to find where to go on from.
+        curl_easy_setopt(h, CURLOPT_IGNORE_CONTENT_LENGTH, 1L);
     }
     curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, writeToFile);
     curl_easy_setopt(h, CURLOPT_WRITEDATA, file.get());
@@ -283,18 +287,18 @@ void CurlTransferClient::removeFile(const std::string& name) {
 }
 
 void CurlTransferClient::probeConnection() {
-    std::unique_ptr<CURL, void (*)(CURL*)> handle(curl_easy_init(), curl_easy_cleanup);
-    if (!handle) {
+    CurlSession session;
+    if (!session) {
         throw FTPError::curlExitCode(-1, "Failed to initialize libcurl");
     }
-    CURL* h = handle.get();
+    CURL* h = session.easy();
     curl_easy_setopt(h, CURLOPT_URL, serverRootURL().c_str());
     curl_easy_setopt(h, CURLOPT_CONNECTTIMEOUT, 5L);
     curl_easy_setopt(h, CURLOPT_TIMEOUT, 10L);
     curl_easy_setopt(h, CURLOPT_NOBODY, 1L);
     curl_easy_setopt(h, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, discardBytes);
-    const CURLcode code = perform(h);
+    const CURLcode code = perform(session);
     // A refused login still proves that something answers on the port.
     if (code != CURLE_OK && code != CURLE_LOGIN_DENIED) {
         fail(code);

@@ -72,8 +72,8 @@ private:
                     const char* sftpVerb);
     // The lease's handle; code -1 if libcurl could not make one.
     static CURL* handleOf(const EasyHandlePool::Lease& lease);
-    // curl_easy_perform, counting the connections it opened.
-    CURLcode perform(CURL* handle);
+    // Runs the session's operation, counting the connections it opened.
+    CURLcode perform(CurlSession& session);
     // The same on a pooled handle, which is not used again if its operation failed.
     CURLcode perform(EasyHandlePool::Lease& lease);
     // Raises the FTPError users read for `code`.

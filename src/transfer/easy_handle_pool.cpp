@@ -3,24 +3,9 @@
 #include <utility>
 
 namespace tarnel {
-namespace {
-
-void closeHandles(const std::vector<CURL*>& handles) {
-    for (CURL* h : handles) {
-        curl_easy_cleanup(h);
-    }
-}
-
-}  // namespace
-
 EasyHandlePool::Lease::~Lease() {
-    if (handle_ == nullptr) {
-        return;
-    }
-    if (discarded_) {
-        curl_easy_cleanup(handle_);
-    } else {
-        pool_->release(handle_);
+    if (session_ && *session_ && !discarded_) {
+        pool_->release(std::move(session_));
     }
 }
 
@@ -40,43 +25,46 @@ EasyHandlePool::~EasyHandlePool() {
 }
 
 EasyHandlePool::Lease EasyHandlePool::acquire() {
-    CURL* handle = nullptr;
+    std::unique_ptr<CurlSession> session;
     {
         std::lock_guard lock(mutex_);
         if (!idle_.empty()) {
-            // The most recently used handle has the session least likely to have timed out.
-            handle = idle_.back().handle;
+            // The most recently used session is the least likely to have timed out.
+            session = std::move(idle_.back().session);
             idle_.pop_back();
         }
     }
-    return Lease(this, handle != nullptr ? handle : curl_easy_init());
+    return Lease(this, session ? std::move(session) : std::make_unique<CurlSession>());
 }
 
-void EasyHandlePool::release(CURL* handle) {
+void EasyHandlePool::release(std::unique_ptr<CurlSession> session) {
     // Cleared at once, so no option points into the finished operation's memory while the
-    // handle waits; its open session stays.
-    curl_easy_reset(handle);
-    std::vector<CURL*> surplus;
+    // session waits; its connection stays.
+    session->reset();
+    Sessions surplus;  // closed when this returns, unlocked
+    bool wasEmpty = false;
     {
         std::lock_guard lock(mutex_);
-        idle_.push_back({handle, now_()});
+        wasEmpty = idle_.empty();
+        idle_.push_back({std::move(session), now_()});
         while (idle_.size() > maxIdleHandles) {
-            surplus.push_back(idle_.front().handle);
+            surplus.push_back(std::move(idle_.front().session));
             idle_.erase(idle_.begin());
         }
     }
-    changed_.notify_all();
-    closeHandles(surplus);
+    // The closer sleeps until the oldest idle session comes of age; a younger one changes
+    // nothing unless there was none.
+    if (wasEmpty) changed_.notify_all();
 }
 
-std::vector<CURL*> EasyHandlePool::takeIdle(const std::function<bool(const Idle&)>& expired) {
-    std::vector<CURL*> taken;
+EasyHandlePool::Sessions EasyHandlePool::takeIdle(const std::function<bool(const Idle&)>& expired) {
+    Sessions taken;
     std::lock_guard lock(mutex_);
-    std::erase_if(idle_, [&](const Idle& i) {
+    std::erase_if(idle_, [&](Idle& i) {
         if (!expired(i)) {
             return false;
         }
-        taken.push_back(i.handle);
+        taken.push_back(std::move(i.session));
         return true;
     });
     return taken;
@@ -84,11 +72,11 @@ std::vector<CURL*> EasyHandlePool::takeIdle(const std::function<bool(const Idle&
 
 void EasyHandlePool::closeIdle() {
     const auto now = now_();
-    closeHandles(takeIdle([&](const Idle& i) { return now - i.since >= idleLimit; }));
+    takeIdle([&](const Idle& i) { return now - i.since >= idleLimit; });
 }
 
 void EasyHandlePool::closeAll() {
-    closeHandles(takeIdle([](const Idle&) { return true; }));
+    takeIdle([](const Idle&) { return true; });
 }
 
 std::size_t EasyHandlePool::idleCount() const {

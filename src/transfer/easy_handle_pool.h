@@ -4,45 +4,44 @@
 #include <condition_variable>
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <thread>
 #include <utility>
 #include <vector>
 
-#include <curl/curl.h>
+#include "transfer/curl_session.h"
 
 namespace tarnel {
 
-// libcurl easy handles kept between operations of one client, so that consecutive operations
-// ride on the session a handle still holds open instead of logging in again. One handle per
-// operation in flight; a handle left idle for `idleLimit` is closed, with its session, by a
-// background thread. Safe to use from several threads.
+// Sessions kept between operations of one client, so that consecutive operations ride on a
+// connection still open instead of logging in again. One session per operation in flight; a
+// session left idle for `idleLimit` is closed by a background thread. Safe to use from several
+// threads.
 class EasyHandlePool {
 public:
     using SteadyClock = std::chrono::steady_clock;
     static constexpr auto idleLimit = std::chrono::seconds(60);
     static constexpr std::size_t maxIdleHandles = 8;
 
-    // A handle lent for one operation; it goes back to the pool when the lease ends.
+    // A session lent for one operation; it goes back to the pool when the lease ends.
     class Lease {
     public:
-        Lease(EasyHandlePool* pool, CURL* handle) : pool_(pool), handle_(handle) {}
-        Lease(Lease&& other) noexcept
-            : pool_(other.pool_),
-              handle_(std::exchange(other.handle_, nullptr)),
-              discarded_(other.discarded_) {}
+        Lease(EasyHandlePool* pool, std::unique_ptr<CurlSession> session)
+            : pool_(pool), session_(std::move(session)) {}
+        Lease(Lease&& other) noexcept = default;
         Lease& operator=(Lease&&) = delete;
         ~Lease();
 
-        CURL* get() const { return handle_; }
-        explicit operator bool() const { return handle_ != nullptr; }
-        // The operation failed: the handle is closed with its session when the lease ends, so
-        // the next operation logs in anew rather than riding a session in an unknown state.
+        CurlSession* get() const { return session_.get(); }
+        explicit operator bool() const { return session_ && *session_; }
+        // The operation failed: the session is closed when the lease ends, so the next
+        // operation logs in anew rather than riding a session in an unknown state.
         void discard() { discarded_ = true; }
 
     private:
         EasyHandlePool* pool_;
-        CURL* handle_;
+        std::unique_ptr<CurlSession> session_;
         bool discarded_ = false;
     };
 
@@ -55,25 +54,26 @@ public:
     EasyHandlePool(const EasyHandlePool&) = delete;
     EasyHandlePool& operator=(const EasyHandlePool&) = delete;
 
-    // An idle handle, its options cleared and its open session kept, or a new one; an empty
-    // lease if libcurl cannot make a handle.
+    // An idle session, its options cleared and its connection kept, or a new one; an empty
+    // lease if libcurl cannot make one.
     Lease acquire();
-    // Closes the handles idle for `idleLimit` or longer.
+    // Closes the sessions idle for `idleLimit` or longer.
     void closeIdle();
-    // Closes every idle handle at once, so the next operation opens a new session.
+    // Closes every idle session at once, so the next operation opens a new one.
     void closeAll();
     std::size_t idleCount() const;
 
 private:
     struct Idle {
-        CURL* handle;
+        std::unique_ptr<CurlSession> session;
         SteadyClock::time_point since;
     };
+    using Sessions = std::vector<std::unique_ptr<CurlSession>>;
 
-    void release(CURL* handle);
+    void release(std::unique_ptr<CurlSession> session);
     void closeIdleLoop(std::stop_token stop);
-    // Takes the handles that `expired` selects out of the pool; the caller closes them unlocked.
-    std::vector<CURL*> takeIdle(const std::function<bool(const Idle&)>& expired);
+    // Takes the sessions that `expired` selects out of the pool; the caller closes them unlocked.
+    Sessions takeIdle(const std::function<bool(const Idle&)>& expired);
 
     std::function<SteadyClock::time_point()> now_;
     mutable std::mutex mutex_;

@@ -11,7 +11,7 @@ TEST(EasyHandlePool, lendsOneHandlePerOperationAndClosesIdleOnes) {
     auto now = EasyHandlePool::SteadyClock::time_point{};
     EasyHandlePool pool([&] { return now; }, false);
 
-    CURL* first = nullptr;
+    CurlSession* first = nullptr;
     {
         auto a = pool.acquire();
         auto b = pool.acquire();  // in flight at the same time: another handle

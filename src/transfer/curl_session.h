@@ -1,0 +1,31 @@
+#pragma once
+
+#include <curl/curl.h>
+
+namespace tarnel {
+
+// One server session: a libcurl easy handle and the multi handle that runs its operations.
+// The multi handle keeps the connection open between operations, as curl_easy_perform's own
+// would, so the next operation on this session needs no new login.
+class CurlSession {
+public:
+    CurlSession();
+    ~CurlSession();
+    CurlSession(const CurlSession&) = delete;
+    CurlSession& operator=(const CurlSession&) = delete;
+
+    // False when libcurl could not make the handles.
+    explicit operator bool() const { return easy_ != nullptr && multi_ != nullptr; }
+    CURL* easy() const { return easy_; }
+
+    // Runs the operation set up on easy() to its end; its result, as curl_easy_perform's.
+    CURLcode perform();
+    // Clears every option of the last operation; the open connection stays.
+    void reset() { curl_easy_reset(easy_); }
+
+private:
+    CURL* easy_;
+    CURLM* multi_;
+};
+
+}  // namespace tarnel
