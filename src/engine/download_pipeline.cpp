@@ -232,7 +232,6 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
         activeDownloads_.set(std::move(rows));
 
         const std::string url = remoteFileURL(file);
-        makeFolder(folder);  // again: it may have gone while we waited
         co_await ftpService_->downloadFile(tempPath.filename().string(), tempPath, offset,
                                            progressReporter(rowId, key, file.size), url);
         removeProgressRow(rowId);

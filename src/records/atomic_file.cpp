@@ -16,10 +16,17 @@ namespace tarnel {
 bool replaceFileAtomically(const std::filesystem::path& file, std::string_view contents) {
     namespace fs = std::filesystem;
     std::error_code ec;
-    makePrivateFolder(file.parent_path());  // the stores hold what is the user's alone
     auto temporary = file;
     temporary += ".tmp";
-    const int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    const auto openTemporary = [&] {
+        return ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    };
+    int fd = openTemporary();
+    if (fd < 0 && errno == ENOENT) {
+        // The folder is made (or made again, if it was deleted meanwhile) for the user alone.
+        makePrivateFolder(file.parent_path());
+        fd = openTemporary();
+    }
     if (fd < 0)
         return false;
     bool written = ::fchmod(fd, 0600) == 0;  // a leftover temporary file keeps its old mode

@@ -8,7 +8,8 @@
 namespace tarnel {
 
 // Replaces `file` by `contents` through a temporary file beside it and a rename, so that a crash
-// leaves the old file or the new one, never a cut-short mix. Creates the folder if needed.
+// leaves the old file or the new one, never a cut-short mix. Creates the folder, for its owner
+// alone, if it is missing; a store makes its existing folder private once, when it starts.
 // Returns false on any failure; the stores that call it drop that, as they never report one.
 bool replaceFileAtomically(const std::filesystem::path& file, std::string_view contents);
 

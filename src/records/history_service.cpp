@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "platform/localized.h"
+#include "platform/private_folder.h"
 #include "records/atomic_file.h"
 
 namespace tarnel {
@@ -55,8 +56,8 @@ HistoryEntry fromJson(const nlohmann::json& j) {
 }
 
 // An unreadable file gives an empty history; it stays on disk until the next save replaces it.
-std::vector<HistoryEntry> load(const std::filesystem::path& file) {
-    std::vector<HistoryEntry> entries;
+std::deque<HistoryEntry> load(const std::filesystem::path& file) {
+    std::deque<HistoryEntry> entries;
     auto text = readWholeFile(file);
     if (!text)
         return entries;
@@ -113,17 +114,21 @@ std::string displayText(TransferStatus status) {
 
 HistoryService::HistoryService(MainLoop& loop, std::filesystem::path historyFile)
     : loop_(loop), file_(std::move(historyFile)), entries_(load(file_)) {
+    makePrivateFolder(file_.parent_path());  // what the user fetched, for the user alone
     for (const auto& e : entries_.value())
         encoded_.push_back(toJson(e).dump());
 }
 
 void HistoryService::add(HistoryEntry entry) {
     loop_.post([this, entry = std::move(entry)]() mutable {
-        encoded_.push_front(toJson(entry).dump());
-        if (encoded_.size() > maxEntries)
-            encoded_.pop_back();
-        entries_.update([&](std::vector<HistoryEntry>& list) {
-            list.insert(list.begin(), std::move(entry));
+        {
+            std::lock_guard lock(encodedMutex_);
+            encoded_.push_front(toJson(entry).dump());
+            if (encoded_.size() > maxEntries)
+                encoded_.pop_back();
+        }
+        entries_.update([&](std::deque<HistoryEntry>& list) {
+            list.push_front(std::move(entry));
             if (list.size() > maxEntries)
                 list.pop_back();
         });
@@ -133,28 +138,64 @@ void HistoryService::add(HistoryEntry entry) {
 
 void HistoryService::clear() {
     loop_.post([this] {
-        encoded_.clear();
+        {
+            std::lock_guard lock(encodedMutex_);
+            encoded_.clear();
+        }
         entries_.set({});
         save();
     });
 }
 
+HistoryService::~HistoryService() {
+    if (heldBack_) queueWrite();
+}
+
+void HistoryService::flush() {
+    if (heldBack_) {
+        heldBack_ = false;
+        queueWrite();
+    }
+    queue_.drain();
+}
+
 void HistoryService::save() {
-    // Each entry is encoded once, when it comes: a file that arrives costs the joining of the
-    // list, not its encoding. A text that a newer one already follows in the queue is skipped.
+    if (pacing_) {
+        heldBack_ = true;
+        return;
+    }
+    queueWrite();
+    pacing_ = loop_.startTimer(writeInterval, false, [this] {
+        auto ended = std::move(pacing_);  // destroyed on leaving: the callback may not outlive it
+        if (heldBack_) {
+            heldBack_ = false;
+            save();
+        }
+    });
+}
+
+void HistoryService::queueWrite() {
+    std::lock_guard lock(encodedMutex_);
+    if (writeQueued_)
+        return;  // the write in the queue takes this change too
+    writeQueued_ = true;
+    queue_.async([this] { write(); });
+}
+
+void HistoryService::write() {
+    // Each entry was encoded once, when it came: a write costs the joining of the list.
     std::string text = "[";
-    for (const auto& e : encoded_) {
-        if (text.size() > 1)
-            text += ',';
-        text += e;
+    {
+        std::lock_guard lock(encodedMutex_);
+        writeQueued_ = false;
+        for (const auto& e : encoded_) {
+            if (text.size() > 1)
+                text += ',';
+            text += e;
+        }
     }
     text += ']';
-    const auto generation = ++savedGeneration_;
-    queue_.async([this, generation, text = std::move(text)] {
-        if (generation != savedGeneration_.load())
-            return;
-        replaceFileAtomically(file_, text);
-    });
+    replaceFileAtomically(file_, text);
 }
 
 bool HistoryService::matches(const HistoryEntry& entry, const std::string& text,

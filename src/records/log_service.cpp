@@ -2,12 +2,6 @@
 
 #include "platform/private_folder.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <system_error>
-
 namespace tarnel {
 
 const char* logLevelWord(LogLevel level) {
@@ -26,7 +20,7 @@ const char* logLevelWord(LogLevel level) {
 
 LogService::LogService(MainLoop& loop, const Clock& clock, std::filesystem::path logFile,
                        std::uintmax_t rotateAtBytes)
-    : loop_(loop), clock_(clock), logFile_(std::move(logFile)), rotateAtBytes_(rotateAtBytes) {
+    : loop_(loop), clock_(clock), logFile_(std::move(logFile)), file_(logFile_, rotateAtBytes) {
     // The log names hosts, users and folders: for its owner's eyes, like the other stores.
     makePrivateFolder(logFile_.parent_path());
 }
@@ -42,27 +36,32 @@ void LogService::setEcho(std::function<void(const std::string&)> echo) {
 
 void LogService::log(const std::string& message, LogLevel level) {
     LogEntry entry{Uuid::random(), clock_.now(), level, message};
-    loop_.post([this, entry] {
-        auto list = entries_.value();
-        list.push_back(entry);
-        if (list.size() > maxEntries) list.erase(list.begin(), list.end() - maxEntries);
-        entries_.set(std::move(list));
+    std::string line = formattedLine(entry);
+    loop_.post([this, entry = std::move(entry)] {
+        entries_.update([&](std::vector<LogEntry>& list) {
+            list.push_back(entry);
+            if (list.size() > maxEntries) list.erase(list.begin(), list.end() - maxEntries);
+        });
     });
-    queue_.async([this, line = formattedLine(entry)] {
-        // Appending creates the file when it is missing, e.g. deleted while we run. Failures to
-        // write the log are never reported.
-        std::error_code ec;
-        if (const auto size = std::filesystem::file_size(logFile_, ec); !ec && size >= rotateAtBytes_)
-            std::filesystem::rename(logFile_, std::filesystem::path(logFile_) += ".1", ec);
-        const std::string text = line + '\n';
-        if (const int fd = ::open(logFile_.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0600);
-            fd >= 0) {
-            ::fchmod(fd, 0600);  // a log an older version made stays readable by others otherwise
-            [[maybe_unused]] auto written = ::write(fd, text.data(), text.size());
-            ::close(fd);
-        }
-        if (echo_) echo_(line);
-    });
+    {
+        std::lock_guard lock(pendingMutex_);
+        pending_.push_back(std::move(line));
+        if (writeQueued_) return;  // the write in the queue takes this line too
+        writeQueued_ = true;
+    }
+    queue_.async([this] { writePending(); });
+}
+
+void LogService::writePending() {
+    std::vector<std::string> lines;
+    {
+        std::lock_guard lock(pendingMutex_);
+        lines.swap(pending_);
+        writeQueued_ = false;
+    }
+    file_.append(lines);
+    if (echo_)
+        for (const auto& line : lines) echo_(line);
 }
 
 void LogService::clear() {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@
 #include "platform/observable.h"
 #include "platform/serial_queue.h"
 #include "platform/uuid.h"
+#include "records/log_file.h"
 
 namespace tarnel {
 
@@ -57,13 +59,19 @@ public:
     void flush() { queue_.drain(); }
 
 private:
+    // On the writer thread: every line given since the last write, in one write.
+    void writePending();
+
     MainLoop& loop_;
     const Clock& clock_;
     std::filesystem::path logFile_;
-    std::uintmax_t rotateAtBytes_;
     Observable<std::vector<LogEntry>> entries_;
+    std::mutex pendingMutex_;
+    std::vector<std::string> pending_;
+    bool writeQueued_ = false;
+    LogFile file_;  // the writer's; goes after the queue has stopped
     std::function<void(const std::string&)> echo_;
-    SerialQueue queue_;
+    SerialQueue queue_;  // last: its thread stops before the members its jobs use go
 };
 
 }  // namespace tarnel

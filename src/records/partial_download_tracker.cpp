@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 #include <system_error>
 
+#include "platform/private_folder.h"
 #include "records/atomic_file.h"
 
 namespace tarnel {
@@ -11,16 +12,18 @@ namespace {
 
 const SystemClock wallClock;
 
-nlohmann::json toJson(const PartialDownload& p) {
-    return {{"remotePath", p.remotePath},
-            {"localTempPath", p.localTempPath},
-            {"expectedSize", p.expectedSize},
-            {"downloadedBytes", p.downloadedBytes},
-            {"connectionId", p.connectionId},
-            {"startedAt", toReferenceSeconds(p.startedAt)},
-            {"lastResumedAt", toReferenceSeconds(p.lastResumedAt)},
-            {"resumeAttempts", p.resumeAttempts},
-            {"placedPath", p.placedPath}};
+// Written by hand rather than built as a JSON object: a record is encoded before each download
+// starts, and the object form costs more than the write itself.
+std::string encodedRecord(const PartialDownload& p) {
+    const auto text = [](const std::string& s) { return nlohmann::json(s).dump(); };
+    const auto seconds = [](TimePoint t) { return nlohmann::json(toReferenceSeconds(t)).dump(); };
+    return "{\"remotePath\":" + text(p.remotePath) + ",\"localTempPath\":" + text(p.localTempPath) +
+           ",\"expectedSize\":" + std::to_string(p.expectedSize) +
+           ",\"downloadedBytes\":" + std::to_string(p.downloadedBytes) +
+           ",\"connectionId\":" + text(p.connectionId) + ",\"startedAt\":" + seconds(p.startedAt) +
+           ",\"lastResumedAt\":" + seconds(p.lastResumedAt) +
+           ",\"resumeAttempts\":" + std::to_string(p.resumeAttempts) +
+           ",\"placedPath\":" + text(p.placedPath) + "}";
 }
 
 // Every key but placedPath is required: a record that lacks one makes the whole file unreadable.
@@ -62,6 +65,7 @@ PartialDownloadTracker::PartialDownloadTracker(std::filesystem::path partialsFil
       clock_(clock ? *clock : wallClock),
       partials_(load(file_)),
       lastWrite_(clock_.now()) {
+    makePrivateFolder(file_.parent_path());  // the records name the user's files and folders
     for (const auto& [key, p] : partials_)
         if (!p.placedPath.empty())
             placedByEarlierRun_.insert(key);
@@ -98,10 +102,19 @@ void PartialDownloadTracker::writeNow() {
     {
         std::lock_guard lock(mutex_);
         writeQueued_ = false;
-        auto array = nlohmann::json::array();
-        for (const auto& [key, p] : partials_)
-            array.push_back(toJson(p));
-        text = array.dump();
+        // Only records that changed since the last write are encoded again.
+        std::map<std::string, std::string> encoded;
+        text = "[";
+        for (const auto& [key, p] : partials_) {
+            auto known = encoded_.find(key);
+            auto& json = encoded[key] =
+                known != encoded_.end() ? std::move(known->second) : encodedRecord(p);
+            if (text.size() > 1)
+                text += ',';
+            text += json;
+        }
+        text += ']';
+        encoded_ = std::move(encoded);
     }
     replaceFileAtomically(file_, text);
 }
@@ -123,6 +136,7 @@ void PartialDownloadTracker::record(const PartialDownload& partial) {
     changeAndWrite([&] {
         placedByEarlierRun_.erase(partial.remotePath);
         partials_.insert_or_assign(partial.remotePath, partial);
+        encoded_.erase(partial.remotePath);
         return true;
     });
 }
@@ -143,6 +157,7 @@ void PartialDownloadTracker::updateProgress(const std::string& remotePath, std::
         return;
     it->second.downloadedBytes = bytes;
     it->second.lastResumedAt = clock_.now();
+    encoded_.erase(remotePath);
     unsaved_ = true;
     if (clock_.now() - lastWrite_ >= progressWriteInterval)
         saveLocked();
@@ -154,6 +169,7 @@ void PartialDownloadTracker::incrementResumeAttempts(const std::string& remotePa
         if (it != partials_.end()) {
             it->second.resumeAttempts += 1;
             it->second.lastResumedAt = clock_.now();
+            encoded_.erase(remotePath);
         }
         return true;
     });
@@ -166,6 +182,7 @@ void PartialDownloadTracker::markPlaced(const std::string& remotePath,
         if (it == partials_.end())
             return false;
         it->second.placedPath = placedPath;
+        encoded_.erase(remotePath);
         return true;
     });
 }
@@ -192,7 +209,15 @@ std::vector<PartialDownload> PartialDownloadTracker::takePlacedByEarlierRun(
 }
 
 void PartialDownloadTracker::remove(const std::string& remotePath) {
-    changeAndWrite([&] { return partials_.erase(remotePath) != 0; });
+    // Paced like the byte count, and written with the next record: a record left by a crash
+    // claims a temporary file that is no longer there, which the next transfer of that name
+    // drops or replaces.
+    std::lock_guard lock(mutex_);
+    if (partials_.erase(remotePath) == 0)
+        return;
+    unsaved_ = true;
+    if (clock_.now() - lastWrite_ >= progressWriteInterval)
+        saveLocked();
 }
 
 void PartialDownloadTracker::discard(const std::string& remotePath) {

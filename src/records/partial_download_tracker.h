@@ -36,10 +36,10 @@ struct PartialDownload {
 // The records of partial downloads of all engines, kept across restarts in "partials.json".
 // Records are keyed by tracking key alone: two connections with the same key share one record.
 // Every operation is callable from any thread. A record is on disk when record() returns, before
-// the download it describes writes a byte, and its removal when remove() or discard() returns,
-// so that a crash never leaves a temporary file that no record claims. Only the byte count is
-// paced: updateProgress, which transfers call on every progress callback, has the writer thread
-// write at most once per `progressWriteInterval`.
+// the download it describes writes a byte, and its removal with its file when discard()
+// returns, so that a crash never leaves a temporary file that no record claims. The rest is
+// paced: the writer thread writes removals and the byte count (which transfers update on every
+// progress callback) at most once per `progressWriteInterval`, unless a record goes first.
 // It also knows which temporary files are being written, by any engine of the fleet, so that no
 // two transfers ever write one.
 class PartialDownloadTracker {
@@ -63,7 +63,7 @@ public:
     // Removes and returns the records of `connectionId` that an earlier run of the program had
     // marked placed: that run may have ended before the files' bookings reached the disk.
     std::vector<PartialDownload> takePlacedByEarlierRun(const std::string& connectionId);
-    // Drops the record; the temporary file stays.
+    // Drops the record, on disk at a paced rate; the temporary file stays.
     void remove(const std::string& remotePath);
     // Drops the record and deletes its temporary file.
     void discard(const std::string& remotePath);
@@ -99,6 +99,8 @@ private:
     std::mutex writeMutex_;
     mutable std::mutex mutex_;
     std::map<std::string, PartialDownload> partials_;
+    // Each record's JSON as last written; a record that changes loses its entry.
+    std::map<std::string, std::string> encoded_;
     std::set<std::string> placedByEarlierRun_;  // keys, as loaded
     struct Claims {
         std::mutex mutex;

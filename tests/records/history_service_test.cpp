@@ -42,12 +42,20 @@ TEST(HistoryService, EntriesSurviveARestartNewestFirst) {
         history.add(failed);
         settle(loop, history);
     }
+    {
+        // Writes are paced: one that waits for its turn is made when the service goes.
+        HistoryService history(loop, file);
+        history.add(entry("c.zip"));
+        history.add(entry("d.zip"));
+        loop.runUntilIdle();
+    }
     HistoryService history(loop, file);
-    ASSERT_EQ(history.entries().value().size(), 2u);
-    EXPECT_EQ(history.entries().value().front(), failed);
+    ASSERT_EQ(history.entries().value().size(), 4u);
+    EXPECT_EQ(history.entries().value().front().filename, "d.zip");
+    EXPECT_EQ(history.entries().value()[2], failed);
     auto stored = nlohmann::json::parse(readWholeFile(file).value());
-    EXPECT_TRUE(stored[0].contains("errorMessage"));
-    EXPECT_FALSE(stored[1].contains("errorMessage"));
+    EXPECT_TRUE(stored[2].contains("errorMessage"));
+    EXPECT_FALSE(stored[3].contains("errorMessage"));
 }
 
 TEST(HistoryService, KeepsTheNewestFiveHundredAndSurvivesACorruptFile) {

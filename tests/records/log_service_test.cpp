@@ -30,7 +30,7 @@ TEST(LogService, MemoryKeepsTheLastHundredWhileTheFileKeepsEverything) {
     EXPECT_NE(text.find("] WARN [Shop] two\nlines\n"), std::string::npos);
 }
 
-TEST(LogService, ADeletedFileIsCreatedAgainByTheNextLineForItsOwnerAlone) {
+TEST(LogService, ADeletedOrRenamedFileIsCreatedAgainByTheNextLineForItsOwnerAlone) {
     namespace fs = std::filesystem;
     TestDir dir("log-deleted");
     fs::create_directories(dir / "state");
@@ -49,6 +49,13 @@ TEST(LogService, ADeletedFileIsCreatedAgainByTheNextLineForItsOwnerAlone) {
     EXPECT_EQ(readWholeFile(log.logFileURL()), "[2024-03-07 09:00:00] ERR [A] after\n");
     EXPECT_EQ(fs::status(log.logFileURL()).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     ASSERT_EQ(log.entries().value().size(), 1u);
+
+    // Renamed away, as logrotate does: the next line starts a new file under the name.
+    fs::rename(log.logFileURL(), dir / "state/Tarnel.log.old");
+    log.log("[A] later");
+    log.flush();
+    EXPECT_EQ(readWholeFile(log.logFileURL()), "[2024-03-07 09:00:00] INFO [A] later\n");
+    EXPECT_EQ(readWholeFile(dir / "state/Tarnel.log.old"), "[2024-03-07 09:00:00] ERR [A] after\n");
 }
 
 TEST(LogService, AFullFileBecomesTheOnePreviousFile) {

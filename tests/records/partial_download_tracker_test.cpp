@@ -26,8 +26,8 @@ protected:
     std::filesystem::path file = dir / "Tarnel/partials.json";
 };
 
-// Each change but the byte count is on disk when the call returns: a crash right after a
-// download starts leaves the record that resumes it, and none of a file already moved.
+// Each change but the byte count and a removal is on disk when the call returns: a crash right
+// after a download starts leaves the record that resumes it.
 TEST_F(PartialDownloadTrackerTest, RecordsAreOnDiskAtOnceAndSurviveARestart) {
     auto a = sample("a.zip");
     const auto onDisk = [&](const std::string& key) {
@@ -41,6 +41,7 @@ TEST_F(PartialDownloadTrackerTest, RecordsAreOnDiskAtOnceAndSurviveARestart) {
         tracker.incrementResumeAttempts("a.zip");
         EXPECT_EQ(onDisk("a.zip")->resumeAttempts, 1);
         tracker.remove("b.zip");
+        tracker.flush();
         EXPECT_FALSE(onDisk("b.zip"));
     }
     PartialDownloadTracker tracker(file, &clock);
