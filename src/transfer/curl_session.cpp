@@ -1,5 +1,6 @@
 #include "transfer/curl_session.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace tarnel {
@@ -7,9 +8,11 @@ namespace {
 
 // libcurl 7.88 can leave an FTP operation with nothing to wait for: when the server's EPSV or
 // PASV reply comes in quickly, the data connection is only opened at the next wake-up, which
-// curl_easy_perform's own loop makes after a whole second. Waking at least this often bounds
-// that stall; an operation that receives data wakes on its socket anyway.
-constexpr int longestWaitMs = 5;
+// curl_easy_perform's own loop makes after a whole second. After any activity the wait is
+// therefore short, and doubles while nothing happens, up to libcurl's own second: the stall
+// costs a millisecond, and a slow server a few extra wake-ups per reply.
+constexpr int shortestWaitMs = 1;
+constexpr int longestWaitMs = 1000;
 
 }  // namespace
 
@@ -26,6 +29,7 @@ CURLcode CurlSession::perform() {
     if (curl_multi_add_handle(multi_, easy_) != CURLM_OK) return CURLE_FAILED_INIT;
     std::optional<CURLcode> result;
     CURLMcode problem = CURLM_OK;
+    int wait = shortestWaitMs;
     while (!result && problem == CURLM_OK) {
         int running = 0;
         problem = curl_multi_perform(multi_, &running);
@@ -34,8 +38,11 @@ CURLcode CurlSession::perform() {
             if (CURLMsg* message = curl_multi_info_read(multi_, &left))
                 result = message->data.result;
         }
-        if (!result && problem == CURLM_OK)
-            problem = curl_multi_poll(multi_, nullptr, 0, longestWaitMs, nullptr);
+        if (!result && problem == CURLM_OK) {
+            int ready = 0;
+            problem = curl_multi_poll(multi_, nullptr, 0, wait, &ready);
+            wait = ready > 0 ? shortestWaitMs : std::min(wait * 2, longestWaitMs);
+        }
     }
     curl_multi_remove_handle(multi_, easy_);
     // A broken multi handle reads as curl_easy_perform would report it.
