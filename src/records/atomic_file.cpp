@@ -29,15 +29,8 @@ bool replaceFileAtomically(const std::filesystem::path& file, std::string_view c
     }
     if (fd < 0)
         return false;
-    bool written = ::fchmod(fd, 0600) == 0;  // a leftover temporary file keeps its old mode
-    for (std::size_t done = 0; written && done < contents.size();) {
-        const auto n = ::write(fd, contents.data() + done, contents.size() - done);
-        if (n < 0 && errno == EINTR)
-            continue;
-        written = n > 0;
-        if (written)
-            done += static_cast<std::size_t>(n);
-    }
+    // A leftover temporary file keeps its old mode.
+    bool written = ::fchmod(fd, 0600) == 0 && writeAll(fd, contents) == contents.size();
     written = ::close(fd) == 0 && written;
     if (written)
         fs::rename(temporary, file, ec);
@@ -47,6 +40,19 @@ bool replaceFileAtomically(const std::filesystem::path& file, std::string_view c
         return false;
     }
     return true;
+}
+
+std::size_t writeAll(int fd, std::string_view text) {
+    std::size_t done = 0;
+    while (done < text.size()) {
+        const auto n = ::write(fd, text.data() + done, text.size() - done);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            break;
+        done += static_cast<std::size_t>(n);
+    }
+    return done;
 }
 
 std::optional<std::string> readWholeFile(const std::filesystem::path& file) {

@@ -13,6 +13,10 @@ namespace tarnel {
 // Returns false on any failure; the stores that call it drop that, as they never report one.
 bool replaceFileAtomically(const std::filesystem::path& file, std::string_view contents);
 
+// Writes all of `text` to `fd`, going on after interruptions; how many bytes it wrote, which is
+// fewer than asked only when the write failed.
+std::size_t writeAll(int fd, std::string_view text);
+
 // The whole file, or nothing if it cannot be read.
 std::optional<std::string> readWholeFile(const std::filesystem::path& file);
 

@@ -4,8 +4,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <system_error>
+
+#include "records/atomic_file.h"
 
 namespace tarnel {
 
@@ -62,13 +63,7 @@ void LogFile::close() {
 }
 
 void LogFile::write(const std::string& text) {
-    for (std::size_t done = 0; fd_ >= 0 && done < text.size();) {
-        const auto n = ::write(fd_, text.data() + done, text.size() - done);
-        if (n < 0 && errno == EINTR) continue;
-        if (n <= 0) return;
-        done += static_cast<std::size_t>(n);
-        size_ += static_cast<std::uintmax_t>(n);
-    }
+    if (fd_ >= 0) size_ += writeAll(fd_, text);
 }
 
 }  // namespace tarnel
