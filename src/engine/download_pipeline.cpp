@@ -60,10 +60,68 @@ void moveFile(const fs::path& from, const fs::path& to) {
 }  // namespace
 
 Task<std::vector<TransferResult>> SyncEngine::downloadStableFiles(std::vector<TrackedFile> stable) {
+    // Records go to disk a block at a time, ahead of the transfers they describe: one write of
+    // the store for many small files instead of one each.
+    std::size_t started = 0;
     // A limit below 1 (an edited file) downloads one at a time rather than waiting for ever.
     co_return co_await slidingWindow<TransferResult>(
-        services_.runtime.loop, std::move(stable), config_.maxConcurrentDownloads,
-        [this](const TrackedFile& file) { return transferFile(file, ++renameCounter_); });
+        services_.runtime.loop, stable, config_.maxConcurrentDownloads,
+        [this, &stable, &started](const TrackedFile& file) {
+            if (started % recordsWrittenAhead == 0) recordAhead(stable, started);
+            ++started;
+            return transferFile(file, ++renameCounter_);
+        });
+}
+
+void SyncEngine::recordAhead(const std::vector<TrackedFile>& files, std::size_t from) {
+    auto& partials = services_.partialTracker;
+    const auto now = services_.runtime.clock.now();
+    std::vector<PartialDownload> records;
+    const std::size_t end = std::min(files.size(), from + recordsWrittenAhead);
+    for (std::size_t i = from; i < end; ++i) {
+        const TrackedFile& file = files[i];
+        const std::string key = trackingKey(file.name, file.relativePath);
+        // A record of an earlier attempt decides on resuming; the transfer reads it then.
+        if (partials.partial(key)) continue;
+        const Placement placement = placementOf(file);
+        if (placement.refusal || placement.ignoredByRouting) continue;
+        const auto tempPath =
+            partialFileURL(placement.folder, file.name, config_.id.toString(), key).string();
+        records.push_back({key, tempPath, file.size, 0, config_.id.toString(), now, now, 0, ""});
+        recordedAhead_.insert_or_assign(key, tempPath);
+    }
+    partials.record(records);
+}
+
+SyncEngine::Placement SyncEngine::placementOf(const TrackedFile& file) const {
+    Placement placement;
+    placement.folder = !file.relativePath.empty() && config_.exploreSubdirectories
+                           ? destinationDirectory(config_, file.relativePath, file.firstSeen,
+                                                  services_.runtime.clock)
+                           : baseLocalDestination(config_, file.firstSeen, services_.runtime.clock);
+    // No remote name may place a file outside the folder it lands in.
+    placement.refusal = remotePathProblem(file.name);
+    if (!placement.refusal)
+        placement.refusal = remotePathProblem(trackingKey(file.name, file.relativePath));
+    if (placement.refusal) return placement;
+    if (config_.routingRules.empty() &&
+        config_.fallbackBehavior == FallbackBehavior::useLocalFolder)
+        return placement;
+    RuleFolders ruleURLs;
+    std::optional<fs::path> fallbackURL;
+    if (auto manager = connectionsManager_.lock()) {
+        ruleURLs = manager->ruleDestinations(config_.id);
+        fallbackURL = manager->fallbackDestination(config_.id);
+    }
+    auto routing = route(file.name, placement.folder, config_.routingRules,
+                         config_.fallbackBehavior, ruleURLs, fallbackURL);
+    if (!routing.destinationURL) {
+        placement.ignoredByRouting = true;
+        return placement;
+    }
+    placement.folder = routing.destinationURL->string();
+    placement.matchedRule = routing.matchedRule;
+    return placement;
 }
 
 std::string SyncEngine::remoteFileURL(const TrackedFile& file) const {
@@ -79,7 +137,9 @@ RemoteService::ProgressCallback SyncEngine::progressReporter(const Uuid& rowId,
     struct Shared {
         explicit Shared(const Clock& c) : speed(c) {}
         SpeedCalculator speed;
-        std::atomic<std::int64_t> lastPost{0};
+        // A transfer that ends within the first interval posts nothing: its row goes with it.
+        std::atomic<std::int64_t> lastPost{
+            std::chrono::steady_clock::now().time_since_epoch().count()};
     };
     auto shared = std::make_shared<Shared>(services_.runtime.clock);
     std::weak_ptr<SyncEngine> weak = weak_from_this();
@@ -91,10 +151,8 @@ RemoteService::ProgressCallback SyncEngine::progressReporter(const Uuid& rowId,
         partials.updateProgress(key, received);
         const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
         const auto last = shared->lastPost.load();
-        // The last sample always goes through; a total the server did not give is never reached.
-        const bool finished = expected > 0 && received >= expected;
-        if (!finished &&
-            now - last < std::chrono::steady_clock::duration(progressPostInterval).count())
+        // The end of the download removes the row, so its last sample need not go through.
+        if (now - last < std::chrono::steady_clock::duration(progressPostInterval).count())
             return;
         shared->lastPost = now;
         const double speed = shared->speed.currentSpeed();
@@ -133,40 +191,21 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
     std::optional<std::string> failure;
     Uuid rowId;
     try {
-        std::string folder =
-            !file.relativePath.empty() && config_.exploreSubdirectories
-                ? destinationDirectory(config_, file.relativePath, file.firstSeen, clock)
-                : baseLocalDestination(config_, file.firstSeen, clock);
-
-        // No remote name may place a file outside the folder it lands in.
-        auto problem = remotePathProblem(file.name);
-        if (!problem) problem = remotePathProblem(key);
-        if (problem) {
-            log("Refused " + key + ": " + *problem + "; left on the server", LogLevel::warning);
+        const Placement placement = placementOf(file);
+        const std::string& folder = placement.folder;
+        const std::optional<RoutingRule>& matchedRule = placement.matchedRule;
+        if (placement.refusal) {
+            log("Refused " + key + ": " + *placement.refusal + "; left on the server",
+                LogLevel::warning);
             result.success = result.wasIgnored = true;
             result.destinationPath = folder;
             co_return result;
         }
-
-        std::optional<RoutingRule> matchedRule;
-        if (!config_.routingRules.empty() ||
-            config_.fallbackBehavior != FallbackBehavior::useLocalFolder) {
-            RuleFolders ruleURLs;
-            std::optional<fs::path> fallbackURL;
-            if (auto manager = connectionsManager_.lock()) {
-                ruleURLs = manager->ruleDestinations(config_.id);
-                fallbackURL = manager->fallbackDestination(config_.id);
-            }
-            auto routing = route(file.name, folder, config_.routingRules,
-                                 config_.fallbackBehavior, ruleURLs, fallbackURL);
-            if (!routing.destinationURL) {
-                log("Ignored by routing rule: " + key);
-                result.success = result.wasIgnored = true;
-                result.destinationPath = folder;
-                co_return result;
-            }
-            folder = routing.destinationURL->string();
-            matchedRule = routing.matchedRule;
+        if (placement.ignoredByRouting) {
+            log("Ignored by routing rule: " + key);
+            result.success = result.wasIgnored = true;
+            result.destinationPath = folder;
+            co_return result;
         }
         const fs::path tempPath = partialFileURL(folder, file.name, config_.id.toString(), key);
 
@@ -179,10 +218,16 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
             co_return result;
         }
 
+        // A record written ahead for this very temporary file stands for a fresh download.
+        bool recordedAhead = false;
+        if (auto ahead = recordedAhead_.find(key); ahead != recordedAhead_.end()) {
+            recordedAhead = ahead->second == tempPath.string();
+            recordedAhead_.erase(ahead);
+        }
         // Resume, when a temporary file of this very remote file is there and not yet whole.
         bool resume = false;
         std::int64_t offset = 0;
-        if (config_.maxResumeAttempts >= 1) {
+        if (config_.maxResumeAttempts >= 1 && !recordedAhead) {
             if (auto record = partials.partial(key)) {
                 std::error_code ec;
                 if (record->localTempPath != tempPath.string() || !fs::exists(tempPath, ec)) {
@@ -214,7 +259,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
         }
 
         makeFolder(folder);
-        if (!resume) {
+        if (!resume && !recordedAhead) {
             const auto now = clock.now();
             partials.record(
                 {key, tempPath.string(), file.size, 0, config_.id.toString(), now, now, 0, ""});

@@ -9,14 +9,15 @@
 #include <vector>
 
 #include "connections/connection_config.h"
+#include "connections/routing_rule.h"
 #include "engine/engine_services.h"
 #include "engine/fleet_link.h"
 #include "engine/remote_service.h"
 #include "engine/tracked_file.h"
 #include "engine/transfer_result.h"
 #include "platform/observable.h"
-#include "records/log_service.h"
 #include "platform/task.h"
+#include "records/log_service.h"
 #include "transfer/download_progress.h"
 #include "transfer/ftp_error.h"
 
@@ -102,8 +103,23 @@ private:
     static Task<void> resumeAfterWake(std::weak_ptr<SyncEngine> weak, MainLoop& loop);
     void spawnPoll();
 
+    // Partial-download records written in one go ahead of the transfers they describe.
+    static constexpr std::size_t recordsWrittenAhead = 32;
+
+    // Where a stable file goes: its folder after routing, or why it goes nowhere.
+    struct Placement {
+        std::string folder;
+        std::optional<RoutingRule> matchedRule;
+        std::optional<std::string> refusal;  // a name that would write outside the folder
+        bool ignoredByRouting = false;
+    };
+
     bool passesListingFilters(const FTPFileEntry& entry) const;
     Task<std::vector<TransferResult>> downloadStableFiles(std::vector<TrackedFile> stable);
+    Placement placementOf(const TrackedFile& file) const;
+    // Records, in one write, the downloads of files[from...] up to recordsWrittenAhead of them
+    // that have no record yet.
+    void recordAhead(const std::vector<TrackedFile>& files, std::size_t from);
     // A placed file's records: downloaded set, counters, history. Written as soon as it is placed.
     void recordTransfer(const TransferResult& result);
     void addHistoryEntry(const TransferResult& result);
@@ -158,6 +174,8 @@ private:
     int consecutiveFailures_ = 0;
     std::vector<std::string> dynamicSelectedPaths_;
     std::set<std::string> undeletedFiles_;
+    // Tracking key to temporary file, for records written ahead of transfers not yet started.
+    std::unordered_map<std::string, std::string> recordedAhead_;
     // Keys whose partial record marks a file placed and booked; the records go at the next poll,
     // when the booking is surely on disk.
     std::vector<std::string> placedRecords_;

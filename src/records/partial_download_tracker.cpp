@@ -132,12 +132,14 @@ void PartialDownloadTracker::changeAndWrite(Change change) {
     writeNow();
 }
 
-void PartialDownloadTracker::record(const PartialDownload& partial) {
+void PartialDownloadTracker::record(std::span<const PartialDownload> partials) {
     changeAndWrite([&] {
-        placedByEarlierRun_.erase(partial.remotePath);
-        partials_.insert_or_assign(partial.remotePath, partial);
-        encoded_.erase(partial.remotePath);
-        return true;
+        for (const PartialDownload& partial : partials) {
+            placedByEarlierRun_.erase(partial.remotePath);
+            partials_.insert_or_assign(partial.remotePath, partial);
+            encoded_.erase(partial.remotePath);
+        }
+        return !partials.empty();
     });
 }
 

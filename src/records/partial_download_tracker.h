@@ -8,6 +8,7 @@
 #include <mutex>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -54,8 +55,9 @@ public:
     PartialDownloadTracker(const PartialDownloadTracker&) = delete;
     PartialDownloadTracker& operator=(const PartialDownloadTracker&) = delete;
 
-    // Inserts or replaces the record under its remotePath.
-    void record(const PartialDownload& partial);
+    // Inserts or replaces each record under its remotePath, in one write.
+    void record(std::span<const PartialDownload> partials);
+    void record(const PartialDownload& partial) { record({&partial, 1}); }
     std::optional<PartialDownload> partial(const std::string& remotePath) const;
     void updateProgress(const std::string& remotePath, std::int64_t bytes);
     void incrementResumeAttempts(const std::string& remotePath);

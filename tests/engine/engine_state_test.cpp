@@ -199,6 +199,34 @@ TEST_F(EngineStateTest, TwoFoldersWithOneNameGiveTwoKeysAndDownloadedFilesAreSki
     EXPECT_EQ(stable.size(), 2u);
 }
 
+TEST_F(EngineStateTest, EachDownloadIsOnRecordBeforeItStartsAndAMoveLeavesNoRecords) {
+    // More files than the records written in one go, and one resumed from an earlier run.
+    config.requiredStableChecks = 0;
+    config.deleteAfterDownload = true;
+    for (int i = 0; i < 70; ++i) server->files["f" + std::to_string(i) + ".bin"] = "content";
+    const auto cut = dir / "inbox" / "f40.bin.tarnel-partial";
+    fs::create_directories(cut.parent_path());
+    std::ofstream(cut) << "con";
+    partials.record({"f40.bin", cut.string(), 7, 3, config.id.toString(), {}, {}, 0, ""});
+    std::vector<std::string> unrecorded;
+    server->beforeDownload = [&](const std::string& name) {
+        // What a restart would read now.
+        if (!PartialDownloadTracker(dir / "partials.json", &loop).partial(name))
+            unrecorded.push_back(name);
+    };
+    auto engine = makeEngine();
+    engine->start();
+    loop.advance(30s);
+    EXPECT_TRUE(unrecorded.empty()) << unrecorded.front();
+    EXPECT_TRUE(server->files.empty());
+    EXPECT_TRUE(hasLogLine("Resuming: f40.bin from 3 bytes (attempt 1/"));
+    EXPECT_EQ(readFile(dir / "inbox" / "f40.bin"), "content");
+    partials.flush();
+    for (int i = 0; i < 70; ++i)
+        EXPECT_FALSE(PartialDownloadTracker(dir / "partials.json", &loop)
+                         .partial("f" + std::to_string(i) + ".bin"));
+}
+
 TEST_F(EngineStateTest, FailuresOfAnyKindFailOneFileOrOnePollAndTheEngineGoesOn) {
     config.requiredStableChecks = 0;
     config.maxRetries = 10;
