@@ -55,13 +55,26 @@ void LogService::log(const std::string& message, LogLevel level) {
 void LogService::writePending() {
     std::vector<std::string> lines;
     {
-        std::lock_guard lock(pendingMutex_);
+        std::unique_lock lock(pendingMutex_);
+        flushing_.wait_until(lock, lastWrite_ + writePace, [this] { return flushers_ > 0; });
         lines.swap(pending_);
         writeQueued_ = false;
     }
+    lastWrite_ = std::chrono::steady_clock::now();
     file_.append(lines);
     if (echo_)
         for (const auto& line : lines) echo_(line);
+}
+
+void LogService::flush() {
+    {
+        std::lock_guard lock(pendingMutex_);
+        ++flushers_;
+    }
+    flushing_.notify_all();
+    queue_.drain();
+    std::lock_guard lock(pendingMutex_);
+    --flushers_;
 }
 
 void LogService::clear() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <condition_variable>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -36,6 +38,7 @@ class LogService {
 public:
     static constexpr std::size_t maxEntries = 100;
     static constexpr std::uintmax_t defaultRotateAtBytes = 10'000'000;
+    static constexpr std::chrono::milliseconds writePace{100};
 
     LogService(MainLoop& loop, const Clock& clock, std::filesystem::path logFile,
                std::uintmax_t rotateAtBytes = defaultRotateAtBytes);
@@ -56,10 +59,11 @@ public:
     const std::filesystem::path& logFileURL() const { return logFile_; }
 
     // Waits until every line logged so far is in the file (tests, shutdown).
-    void flush() { queue_.drain(); }
+    void flush();
 
 private:
-    // On the writer thread: every line given since the last write, in one write.
+    // On the writer thread: every line given since the last write, in one write, at most one
+    // write per `writePace`: a burst of lines costs one wake-up of the writer, not one a line.
     void writePending();
 
     MainLoop& loop_;
@@ -67,8 +71,11 @@ private:
     std::filesystem::path logFile_;
     Observable<std::vector<LogEntry>> entries_;
     std::mutex pendingMutex_;
+    std::condition_variable flushing_;  // cuts a paced wait short
     std::vector<std::string> pending_;
     bool writeQueued_ = false;
+    int flushers_ = 0;
+    std::chrono::steady_clock::time_point lastWrite_;  // the writer's
     LogFile file_;  // the writer's; goes after the queue has stopped
     std::function<void(const std::string&)> echo_;
     SerialQueue queue_;  // last: its thread stops before the members its jobs use go

@@ -4,9 +4,14 @@
 
 namespace tarnel {
 EasyHandlePool::Lease::~Lease() {
+    end();
+}
+
+void EasyHandlePool::Lease::end() {
     if (session_ && *session_ && !discarded_) {
         pool_->release(std::move(session_));
     }
+    session_.reset();
 }
 
 EasyHandlePool::EasyHandlePool(std::function<SteadyClock::time_point()> now, bool closeInBackground)
@@ -41,20 +46,15 @@ void EasyHandlePool::release(std::unique_ptr<CurlSession> session) {
     // Cleared at once, so no option points into the finished operation's memory while the
     // session waits; its connection stays.
     session->reset();
+    // The closer is not woken: it never sleeps past the moment a session returned now could
+    // come of age (closeIdleLoop). A wake-up per operation would cost more than the operation.
     Sessions surplus;  // closed when this returns, unlocked
-    bool wasEmpty = false;
-    {
-        std::lock_guard lock(mutex_);
-        wasEmpty = idle_.empty();
-        idle_.push_back({std::move(session), now_()});
-        while (idle_.size() > maxIdleHandles) {
-            surplus.push_back(std::move(idle_.front().session));
-            idle_.erase(idle_.begin());
-        }
+    std::lock_guard lock(mutex_);
+    idle_.push_back({std::move(session), now_()});
+    while (idle_.size() > maxIdleHandles) {
+        surplus.push_back(std::move(idle_.front().session));
+        idle_.erase(idle_.begin());
     }
-    // The closer sleeps until the oldest idle session comes of age; a younger one changes
-    // nothing unless there was none.
-    if (wasEmpty) changed_.notify_all();
 }
 
 EasyHandlePool::Sessions EasyHandlePool::takeIdle(const std::function<bool(const Idle&)>& expired) {
@@ -87,14 +87,12 @@ std::size_t EasyHandlePool::idleCount() const {
 void EasyHandlePool::closeIdleLoop(std::stop_token stop) {
     while (!stop.stop_requested()) {
         {
+            // A session returned while this waits comes of age `idleLimit` after now or later,
+            // so waking when the oldest one does, or after `idleLimit` with none, misses none.
             std::unique_lock lock(mutex_);
-            if (idle_.empty()) {
-                changed_.wait(lock, stop, [&] { return !idle_.empty(); });
-            } else {
-                // Wake when the oldest idle handle comes of age (or earlier, if one is returned).
-                const auto due = idle_.front().since + idleLimit;
-                changed_.wait_for(lock, stop, due - now_(), [] { return false; });
-            }
+            const auto now = now_();
+            const auto due = idle_.empty() ? now + idleLimit : idle_.front().since + idleLimit;
+            stopped_.wait_for(lock, stop, due - now, [] { return false; });
         }
         closeIdle();
     }

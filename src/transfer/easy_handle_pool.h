@@ -38,6 +38,8 @@ public:
         // The operation failed: the session is closed when the lease ends, so the next
         // operation logs in anew rather than riding a session in an unknown state.
         void discard() { discarded_ = true; }
+        // Ends the lease now rather than when it goes.
+        void end();
 
     private:
         EasyHandlePool* pool_;
@@ -77,7 +79,7 @@ private:
 
     std::function<SteadyClock::time_point()> now_;
     mutable std::mutex mutex_;
-    std::condition_variable_any changed_;
+    std::condition_variable_any stopped_;  // wakes the closer only to stop it
     std::vector<Idle> idle_;  // oldest first
     std::jthread closer_;     // last member: it stops and joins before the rest goes
 };
