@@ -22,20 +22,24 @@ Task<std::vector<FTPFileEntry>> FtpRemoteService::collectFiles(
     });
 }
 
+// Downloads and deletes hold no worker thread while they wait: the client's driver runs them.
 Task<void> FtpRemoteService::downloadFile(std::string name, std::filesystem::path to,
                                           std::int64_t resumeFrom, ProgressCallback onProgress,
                                           std::optional<std::string> remoteURL) {
-    co_await onWorker(runtime_, [&] {
-        service_->downloadFile(name, to, resumeFrom, onProgress, remoteURL);
+    co_await whenComplete(runtime_, [&](Completion done) {
+        service_->startDownloadFile(name, to, resumeFrom, std::move(onProgress), remoteURL,
+                                    std::move(done));
     });
 }
 
 Task<void> FtpRemoteService::deleteFile(std::string name) {
-    co_await onWorker(runtime_, [this, &name] { service_->deleteFile(name); });
+    co_await whenComplete(runtime_,
+                          [&](Completion done) { service_->startDeleteFile(name, std::move(done)); });
 }
 
 Task<void> FtpRemoteService::deleteDirectory(std::string path) {
-    co_await onWorker(runtime_, [this, &path] { service_->deleteDirectory(path); });
+    co_await whenComplete(
+        runtime_, [&](Completion done) { service_->startDeleteDirectory(path, std::move(done)); });
 }
 
 }  // namespace tarnel

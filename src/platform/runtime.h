@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "platform/clock.h"
+#include "platform/completion.h"
 #include "platform/main_loop.h"
 #include "platform/task.h"
 #include "platform/worker_pool.h"
@@ -53,6 +54,37 @@ auto onWorker(Runtime& rt, Fn fn) {
         }
     };
     return Awaiter{rt, std::move(fn)};
+}
+
+// co_await whenComplete(runtime, start): `start(done)` begins an operation that calls `done` on
+// a thread of its own; the awaiting coroutine resumes on the loop, with the failure rethrown.
+// A failure that `start` throws is rethrown the same way.
+template <typename Start>
+auto whenComplete(Runtime& rt, Start start) {
+    struct Awaiter {
+        Runtime& rt;
+        Start start;
+        std::exception_ptr error;
+        bool await_ready() const noexcept { return false; }
+        bool await_suspend(std::coroutine_handle<> h) {
+            auto busy = rt.workers.busyElsewhere();
+            try {
+                start([this, h, busy, &loop = rt.loop](std::exception_ptr failure) {
+                    error = std::move(failure);
+                    // Posted before the token goes, so a loop that sees the pool idle finds it.
+                    loop.post([h] { h.resume(); });
+                });
+            } catch (...) {
+                error = std::current_exception();
+                return false;
+            }
+            return true;
+        }
+        void await_resume() {
+            if (error) std::rethrow_exception(error);
+        }
+    };
+    return Awaiter{rt, std::move(start), nullptr};
 }
 
 }  // namespace tarnel

@@ -14,22 +14,42 @@ WorkerPool::~WorkerPool() {
 }
 
 void WorkerPool::submit(std::function<void()> job) {
-    std::lock_guard lock(mutex_);
-    jobs_.push_back(std::move(job));
-    if (waiting_ < jobs_.size() && threads_.size() < maxThreads_)
-        threads_.emplace_back([this] { run(); });
-    else
-        wake_.notify_one();
+    {
+        std::lock_guard lock(mutex_);
+        jobs_.push_back(std::move(job));
+        if (waiting_ < jobs_.size() && threads_.size() < maxThreads_) {
+            threads_.emplace_back([this] { run(); });
+            return;
+        }
+    }
+    // Outside the lock: the woken thread does not wake only to wait for it.
+    wake_.notify_one();
+}
+
+std::shared_ptr<void> WorkerPool::busyElsewhere() {
+    {
+        std::lock_guard lock(mutex_);
+        ++elsewhere_;
+    }
+    return std::shared_ptr<void>(this, [](void* self) {
+        auto* pool = static_cast<WorkerPool*>(self);
+        std::lock_guard lock(pool->mutex_);
+        if (--pool->elsewhere_ == 0 && pool->idleLocked()) pool->idleChanged_.notify_all();
+    });
+}
+
+bool WorkerPool::idleLocked() const {
+    return jobs_.empty() && running_ == 0 && elsewhere_ == 0;
 }
 
 bool WorkerPool::idle() const {
     std::lock_guard lock(mutex_);
-    return jobs_.empty() && running_ == 0;
+    return idleLocked();
 }
 
 bool WorkerPool::waitIdle(std::chrono::milliseconds timeout) {
     std::unique_lock lock(mutex_);
-    return idleChanged_.wait_for(lock, timeout, [this] { return jobs_.empty() && running_ == 0; });
+    return idleChanged_.wait_for(lock, timeout, [this] { return idleLocked(); });
 }
 
 void WorkerPool::run() {
@@ -46,7 +66,7 @@ void WorkerPool::run() {
         job();
         lock.lock();
         --running_;
-        if (jobs_.empty() && running_ == 0) idleChanged_.notify_all();
+        if (idleLocked()) idleChanged_.notify_all();
     }
 }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <thread>
 #include <vector>
@@ -21,14 +22,18 @@ public:
     WorkerPool& operator=(const WorkerPool&) = delete;
 
     void submit(std::function<void()> job);
+    // Work that runs on a thread of its own and reports to the loop as a job would: the pool
+    // counts as busy until the token is gone, so that a loop waiting for the pool waits for it.
+    std::shared_ptr<void> busyElsewhere();
 
-    // True when no job is queued or running.
+    // True when no job is queued or running, here or elsewhere.
     bool idle() const;
     // Blocks until idle() or `timeout` passes; returns idle().
     bool waitIdle(std::chrono::milliseconds timeout);
 
 private:
     void run();
+    bool idleLocked() const;
 
     const std::size_t maxThreads_;
     mutable std::mutex mutex_;
@@ -38,6 +43,7 @@ private:
     std::vector<std::thread> threads_;
     std::size_t waiting_ = 0;
     std::size_t running_ = 0;
+    std::size_t elsewhere_ = 0;
     bool stopping_ = false;
 };
 

@@ -4,9 +4,9 @@
 
 namespace tarnel {
 
-// One server session: a libcurl easy handle and the multi handle that runs its operations.
-// The multi handle keeps the connection open between operations, as curl_easy_perform's own
-// would, so the next operation on this session needs no new login.
+// One server session: a libcurl easy handle and the multi handle that runs its operations
+// (SessionDriver). The multi handle keeps the connection open between operations, as
+// curl_easy_perform's own would, so the next operation on this session needs no new login.
 class CurlSession {
 public:
     CurlSession();
@@ -17,9 +17,8 @@ public:
     // False when libcurl could not make the handles.
     explicit operator bool() const { return easy_ != nullptr && multi_ != nullptr; }
     CURL* easy() const { return easy_; }
+    CURLM* multi() const { return multi_; }
 
-    // Runs the operation set up on easy() to its end; its result, as curl_easy_perform's.
-    CURLcode perform();
     // Clears every option of the last operation; the open connection stays.
     void reset() { curl_easy_reset(easy_); }
 

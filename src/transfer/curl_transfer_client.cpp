@@ -119,43 +119,70 @@ void CurlTransferClient::configureHandle(CURL* h, const std::string& url) {
     }
 }
 
-void CurlTransferClient::fail(CURLcode code) const {
+// What an operation keeps alive until it has ended: its session and whatever libcurl was given
+// pointers to.
+struct CurlTransferClient::Operation {
+    explicit Operation(EasyHandlePool::Lease session) : lease(std::move(session)) {}
+    EasyHandlePool::Lease lease;
+    std::string text;  // what a listing receives
+    std::unique_ptr<FILE, int (*)(FILE*)> file{nullptr, std::fclose};
+    std::unique_ptr<curl_slist, void (*)(curl_slist*)> commands{nullptr, curl_slist_free_all};
+    std::optional<ProgressContext> progress;
+};
+
+FTPError CurlTransferClient::failure(CURLcode code) const {
     if (code == CURLE_PEER_FAILED_VERIFICATION &&
         config_.transferProtocol == TransferProtocol::sftp) {
-        throw FTPError::hostKeyChanged(config_.host, knownHostsFile_);
+        return FTPError::hostKeyChanged(config_.host, knownHostsFile_);
     }
-    throw FTPError::curlExitCode(code, curl_easy_strerror(code));
+    return FTPError::curlExitCode(code, curl_easy_strerror(code));
 }
 
-CURLcode CurlTransferClient::perform(CurlSession& session) {
-    const CURLcode code = session.perform();
+void CurlTransferClient::countConnections(CURL* handle) {
     long opened = 0;
-    curl_easy_getinfo(session.easy(), CURLINFO_NUM_CONNECTS, &opened);
+    curl_easy_getinfo(handle, CURLINFO_NUM_CONNECTS, &opened);
     connectionsOpened_ += opened;
-    return code;
 }
 
-CURLcode CurlTransferClient::perform(EasyHandlePool::Lease& lease) {
-    const CURLcode code = perform(*lease.get());
-    if (code != CURLE_OK) {
-        // One refused CWD or a cut connection can leave the session where every later
-        // operation fails; a fresh login costs little beside that.
-        lease.discard();
-    }
-    return code;
-}
-
-CURL* CurlTransferClient::handleOf(const EasyHandlePool::Lease& lease) {
-    if (!lease) {
+std::shared_ptr<CurlTransferClient::Operation> CurlTransferClient::operation(
+    const std::string& url) {
+    auto op = std::make_shared<Operation>(pool_.acquire());
+    if (!op->lease) {
         throw FTPError::curlExitCode(-1, "Failed to initialize libcurl");
     }
-    return lease.get()->easy();
+    configureHandle(op->lease.get()->easy(), url);
+    return op;
+}
+
+void CurlTransferClient::launch(std::shared_ptr<Operation> op, Finish finish) {
+    CurlSession& session = *op->lease.get();
+    driver_.start(session, [this, op, finish = std::move(finish)](CURLcode code) {
+        countConnections(op->lease.get()->easy());
+        if (code != CURLE_OK) {
+            // One refused CWD or a cut connection can leave the session where every later
+            // operation fails; a fresh login costs little beside that.
+            op->lease.discard();
+        }
+        // Back in the pool before anyone learns of the end, so that the next operation finds it.
+        op->lease.end();
+        finish(*op, code);
+    });
+}
+
+CURLcode CurlTransferClient::run(const std::shared_ptr<Operation>& op) {
+    CURLcode result = CURLE_OK;
+    waitFor([&](Completion done) {
+        launch(op, [&result, done](Operation&, CURLcode code) {
+            result = code;
+            done(nullptr);
+        });
+    });
+    return result;
 }
 
 std::string CurlTransferClient::readText(const std::string& url, bool namesOnly, bool headersOnly) {
-    auto lease = pool_.acquire();
-    CURL* h = handleOf(lease);
-    configureHandle(h, url);
+    auto op = operation(url);
+    CURL* h = op->lease.get()->easy();
     if (namesOnly) {
         curl_easy_setopt(h, CURLOPT_DIRLISTONLY, 1L);
     }
@@ -163,13 +190,12 @@ std::string CurlTransferClient::readText(const std::string& url, bool namesOnly,
         curl_easy_setopt(h, CURLOPT_NOBODY, 1L);
         curl_easy_setopt(h, CURLOPT_HEADER, 1L);
     }
-    std::string text;
     curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, appendToData);
-    curl_easy_setopt(h, CURLOPT_WRITEDATA, &text);
-    if (const CURLcode code = perform(lease); code != CURLE_OK) {
-        fail(code);
+    curl_easy_setopt(h, CURLOPT_WRITEDATA, &op->text);
+    if (const CURLcode code = run(op); code != CURLE_OK) {
+        throw failure(code);
     }
-    return isValidUtf8(text) ? text : std::string{};
+    return isValidUtf8(op->text) ? std::move(op->text) : std::string{};
 }
 
 std::string CurlTransferClient::fetchHeaders(const std::string& name) {
@@ -184,15 +210,14 @@ std::string CurlTransferClient::listNames(const std::string& url) {
     return readText(url, true, false);
 }
 
-void CurlTransferClient::download(const std::string& url, const std::filesystem::path& to,
-                                  std::int64_t resumeFrom, const ProgressCallback& onProgress) {
-    auto lease = pool_.acquire();
-    CURL* h = handleOf(lease);
-    configureHandle(h, url);
+void CurlTransferClient::startDownload(const std::string& url, const std::filesystem::path& to,
+                                       std::int64_t resumeFrom, ProgressCallback onProgress,
+                                       Completion done) {
+    auto op = operation(url);
+    CURL* h = op->lease.get()->easy();
     // A fresh download truncates any older file here, before the server is contacted.
-    std::unique_ptr<FILE, int (*)(FILE*)> file(std::fopen(to.c_str(), resumeFrom > 0 ? "ab" : "wb"),
-                                               std::fclose);
-    if (!file) {
+    op->file.reset(std::fopen(to.c_str(), resumeFrom > 0 ? "ab" : "wb"));
+    if (!op->file) {
         throw FTPError::localFolderNotWritable(to.string());
     }
     if (resumeFrom > 0) {
@@ -203,58 +228,71 @@ void CurlTransferClient::download(const std::string& url, const std::filesystem:
         curl_easy_setopt(h, CURLOPT_IGNORE_CONTENT_LENGTH, 1L);
     }
     curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, writeToFile);
-    curl_easy_setopt(h, CURLOPT_WRITEDATA, file.get());
+    curl_easy_setopt(h, CURLOPT_WRITEDATA, op->file.get());
     // libssh2 keeps more SFTP reads in flight with a larger buffer: about 40% faster over
     // SFTP (bench/README.md). A cut connection may then lose up to one buffer of bytes.
     curl_easy_setopt(h, CURLOPT_BUFFERSIZE, receiveBufferSize);
-    std::optional<ProgressContext> context;
     if (onProgress) {
         // The caller sees whole-file figures: the offset is added to both, unless the total is
         // still unknown (0).
-        context.emplace(ProgressContext{[&](std::int64_t downloaded, std::int64_t total) {
-            onProgress(downloaded + resumeFrom, total > 0 ? total + resumeFrom : total);
-        }});
+        op->progress.emplace(ProgressContext{
+            [onProgress = std::move(onProgress), resumeFrom](std::int64_t downloaded,
+                                                             std::int64_t total) {
+                onProgress(downloaded + resumeFrom, total > 0 ? total + resumeFrom : total);
+            }});
         curl_easy_setopt(h, CURLOPT_NOPROGRESS, 0L);
-        curl_easy_setopt(h, CURLOPT_XFERINFODATA, &*context);
+        curl_easy_setopt(h, CURLOPT_XFERINFODATA, &*op->progress);
         curl_easy_setopt(h, CURLOPT_XFERINFOFUNCTION, reportProgress);
     }
-    if (const CURLcode code = perform(lease); code != CURLE_OK) {
+    launch(std::move(op), [this, to, resumeFrom, done = std::move(done)](Operation& o,
+                                                                           CURLcode code) {
+        o.file.reset();  // closed, so that whoever is told finds every byte in it
+        if (code == CURLE_OK) {
+            done(nullptr);
+            return;
+        }
         // Only a first attempt leaves nothing behind; a resumed one keeps what it gained.
         if (resumeFrom == 0) {
             std::error_code ignored;
             std::filesystem::remove(to, ignored);
         }
-        fail(code);
-    }
+        done(std::make_exception_ptr(failure(code)));
+    });
 }
 
-void CurlTransferClient::removeItem(const std::string& folder, const std::string& item,
-                                    const char* ftpVerb, const char* sftpVerb) {
-    auto lease = pool_.acquire();
-    CURL* h = handleOf(lease);
+void CurlTransferClient::download(const std::string& url, const std::filesystem::path& to,
+                                  std::int64_t resumeFrom, const ProgressCallback& onProgress) {
+    waitFor([&](Completion done) { startDownload(url, to, resumeFrom, onProgress, done); });
+}
+
+void CurlTransferClient::startRemoveItem(const std::string& folder, const std::string& item,
+                                         const char* ftpVerb, const char* sftpVerb,
+                                         Completion done) {
+    const bool ftp = isFTPFamily(config_.transferProtocol);
     std::string command;
-    if (isFTPFamily(config_.transferProtocol)) {
-        configureHandle(h, config_.remoteURL(percentEncodedPath(folder)));
+    std::string url;
+    if (ftp) {
+        url = config_.remoteURL(percentEncodedPath(folder));
         // A leading "*" would tell libcurl to ignore the command's failure.
         command = std::string(ftpVerb) + " " + (item.starts_with('*') ? "./" + item : item);
     } else {
-        configureHandle(h, serverRootURL());
+        url = serverRootURL();
         std::string path = withLeadingSlash(folder);
         if (!path.ends_with('/')) {
             path += '/';
         }
         command = std::string(sftpVerb) + " " + quotedForSFTP(path + item);
     }
-    std::unique_ptr<curl_slist, void (*)(curl_slist*)> commands(
-        curl_slist_append(nullptr, command.c_str()), curl_slist_free_all);
+    auto op = operation(url);
+    CURL* h = op->lease.get()->easy();
+    op->commands.reset(curl_slist_append(nullptr, command.c_str()));
     // FTP: after libcurl's own CWDs into the folder; no body, so no listing follows.
-    curl_easy_setopt(h, isFTPFamily(config_.transferProtocol) ? CURLOPT_POSTQUOTE : CURLOPT_QUOTE,
-                     commands.get());
+    curl_easy_setopt(h, ftp ? CURLOPT_POSTQUOTE : CURLOPT_QUOTE, op->commands.get());
     curl_easy_setopt(h, CURLOPT_NOBODY, 1L);
     curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, discardBytes);
-    if (const CURLcode code = perform(lease); code != CURLE_OK) {
-        fail(code);
-    }
+    launch(std::move(op), [this, done = std::move(done)](Operation&, CURLcode code) {
+        done(code == CURLE_OK ? nullptr : std::make_exception_ptr(failure(code)));
+    });
 }
 
 namespace {
@@ -272,18 +310,26 @@ std::pair<std::string, std::string> splitLast(const std::string& path) {
 }
 }  // namespace
 
-void CurlTransferClient::removeDirectory(const std::string& path) {
+void CurlTransferClient::startRemoveDirectory(const std::string& path, Completion done) {
     const auto [folder, item] = splitLast(path);
-    removeItem(folder, item, "RMD", "rmdir");
+    startRemoveItem(folder, item, "RMD", "rmdir", std::move(done));
 }
 
-void CurlTransferClient::removeFile(const std::string& name) {
+void CurlTransferClient::removeDirectory(const std::string& path) {
+    waitFor([&](Completion done) { startRemoveDirectory(path, done); });
+}
+
+void CurlTransferClient::startRemoveFile(const std::string& name, Completion done) {
     const auto [below, item] = splitLast(name);
     std::string folder = config_.remotePath;
     if (!below.empty()) {
         folder += (folder.ends_with('/') ? "" : "/") + below;
     }
-    removeItem(folder, item, "DELE", "rm");
+    startRemoveItem(folder, item, "DELE", "rm", std::move(done));
+}
+
+void CurlTransferClient::removeFile(const std::string& name) {
+    waitFor([&](Completion done) { startRemoveFile(name, done); });
 }
 
 void CurlTransferClient::probeConnection() {
@@ -298,10 +344,11 @@ void CurlTransferClient::probeConnection() {
     curl_easy_setopt(h, CURLOPT_NOBODY, 1L);
     curl_easy_setopt(h, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, discardBytes);
-    const CURLcode code = perform(session);
+    const CURLcode code = driver_.run(session);
+    countConnections(h);
     // A refused login still proves that something answers on the port.
     if (code != CURLE_OK && code != CURLE_LOGIN_DENIED) {
-        fail(code);
+        throw failure(code);
     }
 }
 

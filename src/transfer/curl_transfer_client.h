@@ -4,11 +4,15 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include "connections/connection_config.h"
+#include "platform/completion.h"
 #include "transfer/easy_handle_pool.h"
+#include "transfer/ftp_error.h"
+#include "transfer/session_driver.h"
 #include "transfer/ssh_known_hosts.h"
 
 namespace tarnel {
@@ -17,9 +21,10 @@ namespace tarnel {
 using ProgressCallback = std::function<void(std::int64_t downloaded, std::int64_t total)>;
 
 // The one place that talks libcurl. Turns a connection record into libcurl options and offers
-// blocking operations that throw FTPError. Callable from several threads at once; each
-// operation borrows its own easy handle from a small pool, so consecutive operations reuse
-// the session a handle keeps open. Never call it on the main thread.
+// operations that fail with FTPError: blocking ones, never to be called on the main thread, and
+// for downloads and removals ones that report to a Completion. Callable from several threads at
+// once; each operation borrows its own easy handle from a small pool, so consecutive operations
+// reuse the session a handle keeps open, and all of them run on the client's one driver thread.
 class CurlTransferClient {
 public:
     // SFTP host keys are trusted on first use and recorded in `knownHostsFile`; a key that
@@ -37,11 +42,16 @@ public:
     std::string listNames(const std::string& url);
     // Fetches `url` into `to`, appending from `resumeFrom` when that is above 0. A failed
     // first attempt (offset 0) removes the local file; a failed resume keeps what it added.
+    // `done` runs on the driver's thread once the file is closed; `onProgress` there too.
+    void startDownload(const std::string& url, const std::filesystem::path& to,
+                       std::int64_t resumeFrom, ProgressCallback onProgress, Completion done);
     void download(const std::string& url, const std::filesystem::path& to, std::int64_t resumeFrom,
                   const ProgressCallback& onProgress);
     // `path` is the folder's path as the listing named it: `remotePath` and the folders below.
+    void startRemoveDirectory(const std::string& path, Completion done);
     void removeDirectory(const std::string& path);
     // `name` is a path below `remotePath`.
+    void startRemoveFile(const std::string& name, Completion done);
     void removeFile(const std::string& name);
     // Both address exactly what listing and download address. Over FTP a URL's path is relative
     // to the login folder (libcurl changes into each of its folders from there, also on a reused
@@ -64,26 +74,33 @@ public:
     std::string serverRootURL() const;
 
 private:
+    struct Operation;
+    using Finish = std::function<void(Operation&, CURLcode)>;
+
+    // A pooled session set up for `url`; code -1 if libcurl could not make one.
+    std::shared_ptr<Operation> operation(const std::string& url);
     void configureHandle(CURL* handle, const std::string& url);
+    // Runs the operation on the driver; `finish` gets it back with its result, on the driver's
+    // thread. A session whose operation failed is not used again.
+    void launch(std::shared_ptr<Operation> op, Finish finish);
+    // launch(), waiting for the result.
+    CURLcode run(const std::shared_ptr<Operation>& op);
     std::string readText(const std::string& url, bool namesOnly, bool headersOnly);
     // Removes `item` of `folder` (a path below the server root as the URLs spell it) with the
     // FTP command `ftpVerb` or the SFTP command `sftpVerb`.
-    void removeItem(const std::string& folder, const std::string& item, const char* ftpVerb,
-                    const char* sftpVerb);
-    // The lease's handle; code -1 if libcurl could not make one.
-    static CURL* handleOf(const EasyHandlePool::Lease& lease);
-    // Runs the session's operation, counting the connections it opened.
-    CURLcode perform(CurlSession& session);
-    // The same on a pooled handle, which is not used again if its operation failed.
-    CURLcode perform(EasyHandlePool::Lease& lease);
-    // Raises the FTPError users read for `code`.
-    [[noreturn]] void fail(CURLcode code) const;
+    void startRemoveItem(const std::string& folder, const std::string& item, const char* ftpVerb,
+                         const char* sftpVerb, Completion done);
+    void countConnections(CURL* handle);
+    // The FTPError users read for `code`.
+    FTPError failure(CURLcode code) const;
 
     ConnectionConfig config_;
     std::filesystem::path knownHostsFile_;
     KnownHostsPolicy hostKeyPolicy_;
     EasyHandlePool pool_;
     std::atomic<std::int64_t> connectionsOpened_{0};
+    // After the pool: operations it ends on going give their sessions back to a pool still there.
+    SessionDriver driver_;
 };
 
 // `name` with every byte outside the URL path characters as %XX; "/" stays, so subfolders may

@@ -99,26 +99,27 @@ void FTPService::collectFiles(const std::string& path, const std::string& relati
     }
 }
 
-std::filesystem::path FTPService::downloadFile(const std::string& name,
-                                               const std::filesystem::path& to,
-                                               std::int64_t resumeFrom,
-                                               const ProgressCallback& onProgress,
-                                               const std::optional<std::string>& remoteURL) {
+void FTPService::startDownloadFile(const std::string& name, const std::filesystem::path& to,
+                                   std::int64_t resumeFrom, ProgressCallback onProgress,
+                                   const std::optional<std::string>& remoteURL, Completion done) {
     const std::string source =
         remoteURL ? *remoteURL : config_.baseRemoteURL() + percentEncodedPath(name);
-    client_->download(source, to, resumeFrom, onProgress);
-    if (!std::filesystem::exists(to)) {
-        throw FTPError::downloadFailed("File not found after download: " + name);
-    }
-    return to;
+    client_->startDownload(source, to, resumeFrom, std::move(onProgress),
+                           [name, to, done = std::move(done)](std::exception_ptr error) {
+                               if (!error && !std::filesystem::exists(to)) {
+                                   error = std::make_exception_ptr(FTPError::downloadFailed(
+                                       "File not found after download: " + name));
+                               }
+                               done(std::move(error));
+                           });
 }
 
-void FTPService::deleteFile(const std::string& name) {
-    client_->removeFile(name);
+void FTPService::startDeleteFile(const std::string& name, Completion done) {
+    client_->startRemoveFile(name, std::move(done));
 }
 
-void FTPService::deleteDirectory(const std::string& path) {
-    client_->removeDirectory(path);
+void FTPService::startDeleteDirectory(const std::string& path, Completion done) {
+    client_->startRemoveDirectory(path, std::move(done));
 }
 
 int FTPService::testConnectionSteps(const TestProgress& progress) {

@@ -20,7 +20,9 @@ namespace tarnel {
 enum class TestStepStatus { pending, running, success, failure };
 
 // What one connection asks of its server: listings, downloads, deletes and the connection test.
-// Every operation BLOCKS and throws FTPError; callers run them on worker threads.
+// Listings and the test BLOCK and throw FTPError; callers run them on worker threads. Downloads
+// and deletes report to a Completion on the transfer's thread, so that the many of a batch
+// hold no thread while they wait.
 class FTPService {
 public:
     // One row of the connection test.
@@ -49,13 +51,13 @@ public:
                       std::vector<FTPFileEntry>& into);
 
     // Fetches `name` (below `remotePath`), or `remoteURL` as it stands when given, into `to`.
-    std::filesystem::path downloadFile(const std::string& name, const std::filesystem::path& to,
-                                       std::int64_t resumeFrom, const ProgressCallback& onProgress,
-                                       const std::optional<std::string>& remoteURL);
+    void startDownloadFile(const std::string& name, const std::filesystem::path& to,
+                           std::int64_t resumeFrom, ProgressCallback onProgress,
+                           const std::optional<std::string>& remoteURL, Completion done);
     // `name` is a path below `remotePath`.
-    void deleteFile(const std::string& name);
+    void startDeleteFile(const std::string& name, Completion done);
     // `path` is a full path from the server root.
-    void deleteDirectory(const std::string& path);
+    void startDeleteDirectory(const std::string& path, Completion done);
 
     // DNS, TCP, login, folder: each row is reported to `progress` as it changes; the first
     // failure is raised after its row shows it. Returns the number of files in `remotePath`.

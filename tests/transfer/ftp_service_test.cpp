@@ -94,13 +94,17 @@ TEST_P(ServiceTest, downloadsByNameOrByTheGivenURL) {
     config.remotePath = "/in";
     auto service = makeService(config);
     const fs::path local = dir / "local" / "a.partial";
-    EXPECT_EQ(service.downloadFile("a b.txt", local, 0, {}, std::nullopt), local);
+    const auto download = [&](const std::string& name, std::optional<std::string> url) {
+        waitFor([&](Completion done) { service.startDownloadFile(name, local, 0, {}, url, done); });
+    };
+    download("a b.txt", std::nullopt);
     EXPECT_EQ(read(local), "hello");
     // With a URL the name only names the file in messages.
-    service.downloadFile("ignored", local, 0, {}, config.baseRemoteURL() + "a%20b.txt");
+    fs::remove(local);
+    download("ignored", config.baseRemoteURL() + "a%20b.txt");
     EXPECT_EQ(read(local), "hello");
-    service.deleteFile("a b.txt");
-    service.deleteDirectory("/in");
+    waitFor([&](Completion done) { service.startDeleteFile("a b.txt", done); });
+    waitFor([&](Completion done) { service.startDeleteDirectory("/in", done); });
     EXPECT_FALSE(fs::exists(root / "in"));
 }
 
