@@ -2,11 +2,14 @@
 //   small-files  1,000 files of 10 KB, stable at once, 4 at a time, deleted after download,
 //                from the first poll to the last file placed; beside lftp mirror -P4
 //                --Remove-source-files and rclone move --transfers 4. On the Python test
-//                servers, or (native-small-files) on a server as Debian ships it.
+//                servers, or (native-small-files) on a server as Debian ships it, over
+//                several rounds with the median of each contender.
 //   large-file   one 1 GiB file through the engine, beside the curl tool.
 //   idle-fleet   50 connections polling an empty folder every 2 s: CPU per minute, memory.
-// Usage: fleet_bench small-files [ftp|sftp] [count] [folder] | large-file [ftp|sftp] [MiB]
-//        | idle-fleet - [seconds]
+// Usage: fleet_bench small-files [ftp|sftp] [count] [folder]
+//        | native-small-files vsftpd|proftpd|pure_ftpd|proftpd_sftp|openssh [count] [rounds]
+//        | large-file [ftp|sftp] [MiB] | idle-fleet - [seconds]
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <fstream>
@@ -224,55 +227,94 @@ struct Drop {
     std::function<void()> handOver = [] {};  // gives new files to the server's user
 };
 
-// `belowLogin` empty: the files lie in the login folder itself.
-void smallFiles(const Drop& drop, int count, const fs::path& scratch) {
+// One contender's run: wall-clock seconds, files that arrived, its own CPU seconds.
+struct Outcome {
+    double seconds = 0;
+    std::size_t files = 0;
+    double cpu = 0;
+};
+
+struct Contender {
+    std::string name;
+    std::function<Outcome(const fs::path& target)> run;
+    std::vector<Outcome> outcomes = {};
+};
+
+// A peer tool, run to its end: from its start to its exit, and the CPU it spent.
+Outcome runPeer(const std::vector<std::string>& argv, const fs::path& target) {
+    const auto start = Clock::now();
+    const double cpu = cpuSeconds(RUSAGE_CHILDREN);
+    run(argv);
+    return {secondsSince(start), countFiles(target), cpuSeconds(RUSAGE_CHILDREN) - cpu};
+}
+
+Outcome median(std::vector<Outcome> outcomes) {
+    std::sort(outcomes.begin(), outcomes.end(),
+              [](const Outcome& a, const Outcome& b) { return a.seconds < b.seconds; });
+    return outcomes[outcomes.size() / 2];
+}
+
+// `belowLogin` empty: the files lie in the login folder itself. Each round runs every contender
+// once, each round in another order, so that none always runs first or right after another.
+void smallFiles(const Drop& drop, int count, int rounds, const fs::path& scratch) {
     fs::create_directories(drop.local);
     const std::size_t size = 10 * 1024;
     const std::uint64_t bytes = std::uint64_t(count) * size;
     const bool sftp = drop.server.transferProtocol == TransferProtocol::sftp;
-    std::printf("%d files of 10 KB over %s in %s (delete after download, 4 at a time)\n", count,
-                sftp ? "SFTP" : "FTP", ("/" + drop.belowLogin).c_str());
-    const auto prepare = [&](const fs::path& target) {
-        fs::remove_all(target);
-        fill(drop.local, count, size);
-        drop.handOver();
-        settleSockets();
-    };
+    std::printf("%d files of 10 KB over %s in %s (delete after download, 4 at a time), %d round(s)\n",
+                count, sftp ? "SFTP" : "FTP", ("/" + drop.belowLogin).c_str(), rounds);
 
-    Bench bench;
-    auto target = scratch / "tarnel";
-    prepare(target);
-    auto config = engineConfig(drop.server, target);
-    config.remotePath = drop.engineRemote;
-    double cpu = cpuSeconds();
-    const double t = bench.pollOnce(config);
-    report("tarnel engine", t, countFiles(target), bytes, cpuSeconds() - cpu);
-
-    target = scratch / "lftp";
-    prepare(target);
     const std::string sftpSetup =
         "set sftp:auto-confirm yes; set sftp:connect-program 'ssh -a -x -o "
         "StrictHostKeyChecking=no -o UserKnownHostsFile=/dev/null';";
-    auto start = Clock::now();
-    cpu = cpuSeconds(RUSAGE_CHILDREN);
     // lftp starts an SFTP session in "/", an FTP one in the login folder.
     const std::string lftpFolder = sftp                     ? drop.engineRemote
                                    : drop.belowLogin.empty() ? "."
                                                              : drop.belowLogin;
-    run({"lftp", "-c",
-         sftpSetup + " open " + peerUrl(drop.server) + "; mirror -P4 --Remove-source-files '" +
-             lftpFolder + "' " + target.string()});
-    report("lftp mirror -P4 --Remove-source-files", secondsSince(start), countFiles(target), bytes,
-           cpuSeconds(RUSAGE_CHILDREN) - cpu);
+    std::vector<Contender> contenders{
+        {"tarnel engine",
+         [&](const fs::path& target) {
+             Bench bench;
+             auto config = engineConfig(drop.server, target);
+             config.remotePath = drop.engineRemote;
+             const double cpu = cpuSeconds();
+             const double t = bench.pollOnce(config);
+             return Outcome{t, countFiles(target), cpuSeconds() - cpu};
+         }},
+        {"lftp mirror -P4 --Remove-source-files",
+         [&](const fs::path& target) {
+             return runPeer({"lftp", "-c",
+                             sftpSetup + " open " + peerUrl(drop.server) +
+                                 "; mirror -P4 --Remove-source-files '" + lftpFolder + "' " +
+                                 target.string()},
+                            target);
+         }},
+        {"rclone move --transfers 4", [&](const fs::path& target) {
+             return runPeer({"rclone", "move", "--transfers", "4",
+                             rcloneRemote(drop.server) + drop.belowLogin, target.string()},
+                            target);
+         }}};
 
-    target = scratch / "rclone";
-    prepare(target);
-    start = Clock::now();
-    cpu = cpuSeconds(RUSAGE_CHILDREN);
-    run({"rclone", "move", "--transfers", "4", rcloneRemote(drop.server) + drop.belowLogin,
-         target.string()});
-    report("rclone move --transfers 4", secondsSince(start), countFiles(target), bytes,
-           cpuSeconds(RUSAGE_CHILDREN) - cpu);
+    for (int round = 0; round < rounds; ++round) {
+        for (std::size_t i = 0; i < contenders.size(); ++i) {
+            Contender& c = contenders[(i + round) % contenders.size()];
+            const fs::path target = scratch / "target";
+            fs::remove_all(target);
+            fill(drop.local, count, size);
+            drop.handOver();
+            settleSockets();
+            const Outcome o = c.run(target);
+            c.outcomes.push_back(o);
+            report(c.name, o.seconds, o.files, bytes, o.cpu);
+        }
+    }
+    if (rounds > 1) {
+        std::printf("median of %d rounds:\n", rounds);
+        for (const Contender& c : contenders) {
+            const Outcome m = median(c.outcomes);
+            report(c.name, m.seconds, m.files, bytes, m.cpu);
+        }
+    }
     fs::remove_all(scratch);
 }
 
@@ -281,12 +323,12 @@ int smallFilesOnTestServer(ServerProtocol protocol, int count, const std::string
     const fs::path scratch = "/dev/shm/tarnel-bench";
     TestServer server({protocol, scratch / "server"});
     smallFiles({server.connectionConfig(), server.root() / folder, folder, "/" + folder}, count,
-               scratch);
+               1, scratch);
     return 0;
 }
 
 // vsftpd, OpenSSH, ... as Debian ships them, not chrooted, from a sub-folder of the user's home.
-int smallFilesOnNativeServer(const std::string& name, int count) {
+int smallFilesOnNativeServer(const std::string& name, int count, int rounds) {
     using testing::NativeServer;
     using testing::NativeServerKind;
     std::optional<NativeServerKind> kind;
@@ -308,7 +350,7 @@ int smallFilesOnNativeServer(const std::string& name, int count) {
     smallFiles({config, folder, below,
                 config.transferProtocol == TransferProtocol::sftp ? folder.string() : below,
                 [folder] { NativeServer::handOver(folder.parent_path()); }},
-               count, "/dev/shm/tarnel-bench");
+               count, rounds, "/dev/shm/tarnel-bench");
     fs::remove_all(folder.parent_path());
     return 0;
 }
@@ -411,7 +453,8 @@ int main(int argc, char** argv) {
     if (mode == "small-files")
         return smallFilesOnTestServer(protocol, number > 0 ? number : 1000, argc > 4 ? argv[4] : "");
     if (mode == "native-small-files")
-        return smallFilesOnNativeServer(argc > 2 ? argv[2] : "", number > 0 ? number : 1000);
+        return smallFilesOnNativeServer(argc > 2 ? argv[2] : "", number > 0 ? number : 1000,
+                                        argc > 4 ? std::max(1, std::atoi(argv[4])) : 1);
     if (mode == "large-file")
         return largeFile(protocol, number > 0 ? number : 1024);
     if (mode == "idle-fleet")
@@ -419,7 +462,7 @@ int main(int argc, char** argv) {
     std::fprintf(
         stderr,
         "usage: fleet_bench small-files [ftp|sftp] [count] [folder] | native-small-files "
-        "vsftpd|proftpd|pure_ftpd|proftpd_sftp|openssh [count] | large-file [ftp|sftp] [MiB] | "
+        "vsftpd|proftpd|pure_ftpd|proftpd_sftp|openssh [count] [rounds] | large-file [ftp|sftp] [MiB] | "
         "idle-fleet - [seconds]\n");
     return 2;
 }
