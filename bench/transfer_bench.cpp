@@ -117,7 +117,7 @@ void benchTransfer(ServerProtocol protocol, const char* label, std::int64_t byte
     struct Contender {
         const char* name;
         std::function<bool()> run;
-        std::vector<double> seconds;
+        std::vector<double> seconds = {};
     };
     std::vector<Contender> contenders = {
         {"CurlTransferClient",
