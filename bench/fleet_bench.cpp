@@ -3,11 +3,13 @@
 //                from the first poll to the last file placed; beside lftp mirror -P4
 //                --Remove-source-files and rclone move --transfers 4. On the Python test
 //                servers, or (native-small-files) on a server as Debian ships it, over
-//                several rounds with the median of each contender.
+//                several rounds with the median of each contender; `only` names the one
+//                contender to run (tarnel, lftp or rclone), for profiling it alone.
 //   large-file   one 1 GiB file through the engine, beside the curl tool.
 //   idle-fleet   50 connections polling an empty folder every 2 s: CPU per minute, memory.
 // Usage: fleet_bench small-files [ftp|sftp] [count] [folder]
 //        | native-small-files vsftpd|proftpd|pure_ftpd|proftpd_sftp|openssh [count] [rounds]
+//          [only]
 //        | large-file [ftp|sftp] [MiB] | idle-fleet - [seconds]
 #include <algorithm>
 #include <chrono>
@@ -256,7 +258,8 @@ Outcome median(std::vector<Outcome> outcomes) {
 
 // `belowLogin` empty: the files lie in the login folder itself. Each round runs every contender
 // once, each round in another order, so that none always runs first or right after another.
-void smallFiles(const Drop& drop, int count, int rounds, const fs::path& scratch) {
+void smallFiles(const Drop& drop, int count, int rounds, const fs::path& scratch,
+                const std::string& only = "") {
     fs::create_directories(drop.local);
     const std::size_t size = 10 * 1024;
     const std::uint64_t bytes = std::uint64_t(count) * size;
@@ -295,11 +298,16 @@ void smallFiles(const Drop& drop, int count, int rounds, const fs::path& scratch
                             target);
          }}};
 
+    if (!only.empty())
+        std::erase_if(contenders, [&](const Contender& c) { return !c.name.starts_with(only); });
     for (int round = 0; round < rounds; ++round) {
         for (std::size_t i = 0; i < contenders.size(); ++i) {
             Contender& c = contenders[(i + round) % contenders.size()];
             const fs::path target = scratch / "target";
             fs::remove_all(target);
+            // What a contender left behind, or an interrupted run, would be counted again.
+            for (const auto& left : fs::directory_iterator(drop.local))
+                fs::remove_all(left.path());
             fill(drop.local, count, size);
             drop.handOver();
             settleSockets();
@@ -328,7 +336,8 @@ int smallFilesOnTestServer(ServerProtocol protocol, int count, const std::string
 }
 
 // vsftpd, OpenSSH, ... as Debian ships them, not chrooted, from a sub-folder of the user's home.
-int smallFilesOnNativeServer(const std::string& name, int count, int rounds) {
+int smallFilesOnNativeServer(const std::string& name, int count, int rounds,
+                             const std::string& only) {
     using testing::NativeServer;
     using testing::NativeServerKind;
     std::optional<NativeServerKind> kind;
@@ -350,7 +359,7 @@ int smallFilesOnNativeServer(const std::string& name, int count, int rounds) {
     smallFiles({config, folder, below,
                 config.transferProtocol == TransferProtocol::sftp ? folder.string() : below,
                 [folder] { NativeServer::handOver(folder.parent_path()); }},
-               count, rounds, "/dev/shm/tarnel-bench");
+               count, rounds, "/dev/shm/tarnel-bench", only);
     fs::remove_all(folder.parent_path());
     return 0;
 }
@@ -454,7 +463,8 @@ int main(int argc, char** argv) {
         return smallFilesOnTestServer(protocol, number > 0 ? number : 1000, argc > 4 ? argv[4] : "");
     if (mode == "native-small-files")
         return smallFilesOnNativeServer(argc > 2 ? argv[2] : "", number > 0 ? number : 1000,
-                                        argc > 4 ? std::max(1, std::atoi(argv[4])) : 1);
+                                        argc > 4 ? std::max(1, std::atoi(argv[4])) : 1,
+                                        argc > 5 ? argv[5] : "");
     if (mode == "large-file")
         return largeFile(protocol, number > 0 ? number : 1024);
     if (mode == "idle-fleet")
@@ -462,7 +472,7 @@ int main(int argc, char** argv) {
     std::fprintf(
         stderr,
         "usage: fleet_bench small-files [ftp|sftp] [count] [folder] | native-small-files "
-        "vsftpd|proftpd|pure_ftpd|proftpd_sftp|openssh [count] [rounds] | large-file [ftp|sftp] [MiB] | "
+        "vsftpd|proftpd|pure_ftpd|proftpd_sftp|openssh [count] [rounds] [only] | large-file [ftp|sftp] [MiB] | "
         "idle-fleet - [seconds]\n");
     return 2;
 }

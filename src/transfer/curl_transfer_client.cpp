@@ -156,7 +156,7 @@ std::shared_ptr<CurlTransferClient::Operation> CurlTransferClient::operation(
 
 void CurlTransferClient::launch(std::shared_ptr<Operation> op, Finish finish) {
     CurlSession& session = *op->lease.get();
-    driver_.start(session, [this, op, finish = std::move(finish)](CURLcode code) {
+    drivers_.start(session, [this, op, finish = std::move(finish)](CURLcode code) {
         countConnections(op->lease.get()->easy());
         if (code != CURLE_OK) {
             // One refused CWD or a cut connection can leave the session where every later
@@ -344,7 +344,7 @@ void CurlTransferClient::probeConnection() {
     curl_easy_setopt(h, CURLOPT_NOBODY, 1L);
     curl_easy_setopt(h, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, discardBytes);
-    const CURLcode code = driver_.run(session);
+    const CURLcode code = drivers_.run(session);
     countConnections(h);
     // A refused login still proves that something answers on the port.
     if (code != CURLE_OK && code != CURLE_LOGIN_DENIED) {

@@ -24,7 +24,7 @@ using ProgressCallback = std::function<void(std::int64_t downloaded, std::int64_
 // operations that fail with FTPError: blocking ones, never to be called on the main thread, and
 // for downloads and removals ones that report to a Completion. Callable from several threads at
 // once; each operation borrows its own easy handle from a small pool, so consecutive operations
-// reuse the session a handle keeps open, and all of them run on the client's one driver thread.
+// reuse the session a handle keeps open; they run on the client's driver threads.
 class CurlTransferClient {
 public:
     // SFTP host keys are trusted on first use and recorded in `knownHostsFile`; a key that
@@ -99,8 +99,8 @@ private:
     KnownHostsPolicy hostKeyPolicy_;
     EasyHandlePool pool_;
     std::atomic<std::int64_t> connectionsOpened_{0};
-    // After the pool: operations it ends on going give their sessions back to a pool still there.
-    SessionDriver driver_;
+    // After the pool: operations they end on going give their sessions back to a pool still there.
+    SessionDrivers drivers_;
 };
 
 // `name` with every byte outside the URL path characters as %XX; "/" stays, so subfolders may

@@ -13,9 +13,10 @@ namespace {
 
 // libcurl 7.88 can leave an FTP operation with nothing to wait for: when the server's EPSV or
 // PASV reply comes in quickly, the data connection is only opened at the next call, which
-// libcurl's own loop makes a whole second later. An operation with no socket and no timeout is
-// therefore called again after a millisecond, and twice as long each time nothing came of it.
-constexpr std::chrono::steady_clock::duration shortestStall = std::chrono::milliseconds(1);
+// libcurl's own loop makes a whole second later. An operation with no socket is therefore
+// called again at once, then after a millisecond, and twice as long each time nothing came of
+// it.
+constexpr std::chrono::steady_clock::duration firstStallWait = std::chrono::milliseconds(1);
 // No operation waits longer than libcurl's own loop would between two calls.
 constexpr std::chrono::steady_clock::duration longestWait = std::chrono::seconds(1);
 
@@ -77,7 +78,7 @@ void SessionDriver::start(CurlSession& session, Done done) {
     auto op = std::make_unique<Operation>();
     op->session = &session;
     op->done = std::move(done);
-    op->stallWait = shortestStall;
+    ++load_;
     bool sleeping = false;
     {
         std::lock_guard lock(mutex_);
@@ -86,13 +87,6 @@ void SessionDriver::start(CurlSession& session, Done done) {
     }
     // A thread that is busy takes the operation on its next round without being woken.
     if (sleeping) wake();
-}
-
-CURLcode SessionDriver::run(CurlSession& session) {
-    auto result = std::make_shared<std::promise<CURLcode>>();
-    auto future = result->get_future();
-    start(session, [result](CURLcode code) { result->set_value(code); });
-    return future.get();
 }
 
 void SessionDriver::wake() {
@@ -147,6 +141,7 @@ bool SessionDriver::takeStarted() {
         curl_multi_setopt(multi, CURLMOPT_TIMERDATA, op.get());
         if (curl_multi_add_handle(multi, op->session->easy()) != CURLM_OK) {
             detach(multi);
+            --load_;
             op->done(CURLE_FAILED_INIT);
             continue;
         }
@@ -186,7 +181,26 @@ void SessionDriver::finish(Operation& op, CURLcode code) {
     op.sockets.clear();
     // Moved out first: the callback may hand the session on, and with it this operation's end.
     Done done = std::move(op.done);
+    // Free before anyone learns of the end, so that the next operation may come here.
+    --load_;
     done(code);
+}
+
+void SessionDrivers::start(CurlSession& session, SessionDriver::Done done) {
+    // Chosen and started under the lock, so that two callers never pick the same idle driver.
+    std::lock_guard lock(mutex_);
+    const auto idle = std::find_if(drivers_.begin(), drivers_.end(),
+                                   [](const auto& driver) { return driver->load() == 0; });
+    SessionDriver& driver =
+        idle != drivers_.end() ? **idle : *drivers_.emplace_back(std::make_unique<SessionDriver>());
+    driver.start(session, std::move(done));
+}
+
+CURLcode SessionDrivers::run(CurlSession& session) {
+    auto result = std::make_shared<std::promise<CURLcode>>();
+    auto future = result->get_future();
+    start(session, [result](CURLcode code) { result->set_value(code); });
+    return future.get();
 }
 
 void SessionDriver::loop() {
@@ -218,7 +232,7 @@ void SessionDriver::loop() {
         for (std::size_t i = 1; ready > 0 && i < fds.size(); ++i) {
             Operation& op = *owners[i];
             if (fds[i].revents == 0 || op.finished) continue;
-            op.stallWait = shortestStall;
+            op.stallWait = {};
             act(op, fds[i].fd, curlEvents(fds[i].revents));
         }
         const auto now = Clock::now();
@@ -226,7 +240,8 @@ void SessionDriver::loop() {
             if (op->finished || callDue(*op) > now) continue;
             const bool stalled = op->sockets.empty();
             act(*op, stalled ? CURL_SOCKET_BAD : CURL_SOCKET_TIMEOUT, 0);
-            if (stalled) op->stallWait = std::min(op->stallWait * 2, longestWait);
+            if (stalled)
+                op->stallWait = std::clamp(op->stallWait * 2, firstStallWait, longestWait);
         }
         std::erase_if(active_, [](const auto& op) { return op->finished; });
     }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <atomic>
 #include <chrono>
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -15,10 +17,9 @@
 
 namespace tarnel {
 
-// Runs the operations of many sessions on one thread. libcurl names the sockets and the
-// timeout each operation waits for, and one poll watches them all: the transfers of a
-// connection share a thread that sleeps only while every one of them waits, instead of each
-// holding a thread of its own that the server's every reply has to wake.
+// Runs the operations of sessions on one thread. libcurl names the sockets and the timeout each
+// operation waits for, and one poll watches them all, so a session's thread sleeps until the
+// server answers instead of a worker thread being held for each operation.
 class SessionDriver {
 public:
     using Done = std::function<void(CURLcode)>;
@@ -33,8 +34,8 @@ public:
     // Runs the operation set up on `session`'s easy handle. `done` gets its result on the
     // driver's thread, when the driver no longer touches the session. Not from that thread.
     void start(CurlSession& session, Done done);
-    // start(), then waits for the result.
-    CURLcode run(CurlSession& session);
+    // Operations started and not yet done.
+    std::size_t load() const { return load_; }
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -62,6 +63,7 @@ private:
     static Clock::time_point callDue(const Operation& op);
     void wake();
 
+    std::atomic<std::size_t> load_{0};
     int wakeFd_ = -1;
     std::mutex mutex_;
     std::vector<std::unique_ptr<Operation>> started_;  // given, not yet taken by the thread
@@ -69,6 +71,23 @@ private:
     bool stopping_ = false;
     std::vector<std::unique_ptr<Operation>> active_;   // the thread's own
     std::thread thread_;                               // last: it starts once the rest is there
+};
+
+// The drivers of one connection's sessions. libcurl 7.88 still waits for an FTP transfer's
+// last reply, and for the reply to a command sent after it, by blocking in poll(): two
+// operations on one driver would wait for each other's server, for as long as a minute. So
+// each operation goes to a driver with nothing to do, made when there is none: there are as
+// many as the most operations that ever ran at once, which the engine keeps to a few.
+class SessionDrivers {
+public:
+    // SessionDriver::start() on a driver with nothing to do. Not from a driver's thread.
+    void start(CurlSession& session, SessionDriver::Done done);
+    // start(), then waits for the result.
+    CURLcode run(CurlSession& session);
+
+private:
+    std::mutex mutex_;
+    std::vector<std::unique_ptr<SessionDriver>> drivers_;
 };
 
 }  // namespace tarnel

@@ -95,7 +95,16 @@ def _handler(base, faults, root):
             if faults.refuse_delete():
                 self.respond("550 Permission denied.")
                 return None
-            return super().ftp_DELE(path)
+            pause = faults.current().get("delete_reply_pause_seconds")
+            if not pause:
+                return super().ftp_DELE(path)
+            # The file goes at once, its reply later, without holding up the other sessions.
+            answer = self.respond
+            self.respond = lambda *args: self.ioloop.call_later(pause, answer, *args)
+            try:
+                return super().ftp_DELE(path)
+            finally:
+                del self.respond
 
     Handler.faults = faults
     return Handler

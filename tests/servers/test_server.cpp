@@ -270,6 +270,11 @@ void TestServer::refuseDeletes(bool on) {
     updateFaults(stateDir, [&](nlohmann::json& f) { f["refuse_delete"] = on; });
 }
 
+void TestServer::delayDeleteReplies(std::optional<std::int64_t> seconds) {
+    updateFaults(stateDir,
+                 [&](nlohmann::json& f) { setOrErase(f, "delete_reply_pause_seconds", seconds); });
+}
+
 void TestServer::refuseLogins(bool on) {
     updateFaults(stateDir, [&](nlohmann::json& f) { f["refuse_login"] = on; });
 }

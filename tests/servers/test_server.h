@@ -64,6 +64,8 @@ public:
     // Faults, in effect from the next operation on.
     void cutTransfersAfter(std::optional<std::int64_t> bytes);
     void refuseDeletes(bool on);
+    // FTP: a delete removes the file at once and answers `seconds` later.
+    void delayDeleteReplies(std::optional<std::int64_t> seconds);
     void refuseLogins(bool on);
     // Appends `bytes` to the file `name` (relative to root) right before its next download.
     void growOnNextDownload(const std::string& name, const std::string& bytes);

@@ -1,5 +1,9 @@
 #include "transfer/curl_transfer_client.h"
 
+#include <chrono>
+#include <future>
+#include <thread>
+
 #include <gtest/gtest.h>
 
 #include "transfer/ftp_error.h"
@@ -158,6 +162,28 @@ TEST_F(FtpClientTest, tlsAskedOfAPlainServerIsRefused) {
     EXPECT_EQ(
         failureOf([&] { makeClient(config)->listDirectory(config.baseRemoteURL()); }).curlCode(),
         CURLE_USE_SSL_FAILED);
+}
+
+// libcurl waits for the reply to a command sent after a transfer by blocking; on a thread that
+// drove another session too, that one would wait as well.
+TEST_F(FtpClientTest, aReplyLongInComingHoldsUpNoOtherSession) {
+    write(root / "slow.txt", "s");
+    write(root / "fast.txt", "f");
+    auto client = makeClient();
+    server->delayDeleteReplies(3);
+    std::promise<std::exception_ptr> deleted;
+    auto answered = deleted.get_future();
+    client->startRemoveFile("slow.txt", [&](std::exception_ptr e) { deleted.set_value(e); });
+    // The file goes when the command arrives: from then on the client waits for the reply.
+    for (int i = 0; i < 1000 && fs::exists(root / "slow.txt"); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    ASSERT_FALSE(fs::exists(root / "slow.txt"));
+
+    client->download(client->config().baseRemoteURL() + "fast.txt", dir / "local" / "fast.txt", 0,
+                     {});
+    EXPECT_EQ(read(dir / "local" / "fast.txt"), "f");
+    EXPECT_EQ(answered.wait_for(std::chrono::seconds(0)), std::future_status::timeout);
+    EXPECT_EQ(answered.get(), nullptr);
 }
 
 using FtpsClientTest = On<TransferTest, ServerProtocol::ftps>;
