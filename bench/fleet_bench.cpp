@@ -258,8 +258,9 @@ Outcome median(std::vector<Outcome> outcomes) {
 
 // `belowLogin` empty: the files lie in the login folder itself. Each round runs every contender
 // once, each round in another order, so that none always runs first or right after another.
-void smallFiles(const Drop& drop, int count, int rounds, const fs::path& scratch,
-                const std::string& only = "") {
+// 2 when `only` names no contender.
+int smallFiles(const Drop& drop, int count, int rounds, const fs::path& scratch,
+               const std::string& only = "") {
     fs::create_directories(drop.local);
     const std::size_t size = 10 * 1024;
     const std::uint64_t bytes = std::uint64_t(count) * size;
@@ -300,6 +301,11 @@ void smallFiles(const Drop& drop, int count, int rounds, const fs::path& scratch
 
     if (!only.empty())
         std::erase_if(contenders, [&](const Contender& c) { return !c.name.starts_with(only); });
+    if (contenders.empty()) {
+        std::fprintf(stderr, "fleet_bench: no contender named %s (tarnel, lftp or rclone)\n",
+                     only.c_str());
+        return 2;
+    }
     for (int round = 0; round < rounds; ++round) {
         for (std::size_t i = 0; i < contenders.size(); ++i) {
             Contender& c = contenders[(i + round) % contenders.size()];
@@ -324,15 +330,15 @@ void smallFiles(const Drop& drop, int count, int rounds, const fs::path& scratch
         }
     }
     fs::remove_all(scratch);
+    return 0;
 }
 
 // The Python test servers; `folder` below their root, or the root itself.
 int smallFilesOnTestServer(ServerProtocol protocol, int count, const std::string& folder) {
     const fs::path scratch = "/dev/shm/tarnel-bench";
     TestServer server({protocol, scratch / "server"});
-    smallFiles({server.connectionConfig(), server.root() / folder, folder, "/" + folder}, count,
-               1, scratch);
-    return 0;
+    return smallFiles({server.connectionConfig(), server.root() / folder, folder, "/" + folder},
+                      count, 1, scratch);
 }
 
 // vsftpd, OpenSSH, ... as Debian ships them, not chrooted, from a sub-folder of the user's home.
@@ -356,12 +362,13 @@ int smallFilesOnNativeServer(const std::string& name, int count, int rounds,
     const fs::path folder = server.makeFolder("bench") / "drop";
     const auto config = server.connectionConfig();
     const std::string below = fs::relative(folder, NativeServer::home()).string();
-    smallFiles({config, folder, below,
-                config.transferProtocol == TransferProtocol::sftp ? folder.string() : below,
-                [folder] { NativeServer::handOver(folder.parent_path()); }},
-               count, rounds, "/dev/shm/tarnel-bench", only);
+    const int status =
+        smallFiles({config, folder, below,
+                    config.transferProtocol == TransferProtocol::sftp ? folder.string() : below,
+                    [folder] { NativeServer::handOver(folder.parent_path()); }},
+                   count, rounds, "/dev/shm/tarnel-bench", only);
     fs::remove_all(folder.parent_path());
-    return 0;
+    return status;
 }
 
 int largeFile(ServerProtocol protocol, std::size_t mib) {

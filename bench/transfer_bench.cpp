@@ -17,6 +17,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "platform/testing/wait_for.h"
 #include "servers/test_server.h"
 #include "transfer/curl_transfer_client.h"
 #include "transfer/listing_parser.h"
@@ -122,13 +123,13 @@ void benchTransfer(ServerProtocol protocol, const char* label, std::int64_t byte
     std::vector<Contender> contenders = {
         {"CurlTransferClient",
          [&] {
-             client.download(url, local, 0, {});
+             tarnel::waitFor([&](tarnel::Completion done) { client.startDownload(url, local, 0, {}, done); });
              return true;
          }},
         {"CurlTransferClient, new session",
          [&] {
              client.closeIdleConnections();
-             client.download(url, local, 0, {});
+             tarnel::waitFor([&](tarnel::Completion done) { client.startDownload(url, local, 0, {}, done); });
              return true;
          }},
         {"curl command-line tool", [&] { return curlTool(server, url, local); }},

@@ -9,8 +9,4 @@ namespace tarnel {
 // once.
 using Completion = std::function<void(std::exception_ptr)>;
 
-// Runs `start`, which begins such an operation, and waits for its completion; rethrows its
-// failure, also one that `start` itself throws.
-void waitFor(const std::function<void(Completion)>& start);
-
 }  // namespace tarnel

@@ -154,30 +154,29 @@ std::shared_ptr<CurlTransferClient::Operation> CurlTransferClient::operation(
     return op;
 }
 
+void CurlTransferClient::settle(Operation& op, CURLcode code) {
+    countConnections(op.lease.get()->easy());
+    if (code != CURLE_OK) {
+        // One refused CWD or a cut connection can leave the session where every later
+        // operation fails; a fresh login costs little beside that.
+        op.lease.discard();
+    }
+    // Back in the pool before anyone learns of the end, so that the next operation finds it.
+    op.lease.end();
+}
+
 void CurlTransferClient::launch(std::shared_ptr<Operation> op, Finish finish) {
     CurlSession& session = *op->lease.get();
     drivers_.start(session, [this, op, finish = std::move(finish)](CURLcode code) {
-        countConnections(op->lease.get()->easy());
-        if (code != CURLE_OK) {
-            // One refused CWD or a cut connection can leave the session where every later
-            // operation fails; a fresh login costs little beside that.
-            op->lease.discard();
-        }
-        // Back in the pool before anyone learns of the end, so that the next operation finds it.
-        op->lease.end();
+        settle(*op, code);
         finish(*op, code);
     });
 }
 
-CURLcode CurlTransferClient::run(const std::shared_ptr<Operation>& op) {
-    CURLcode result = CURLE_OK;
-    waitFor([&](Completion done) {
-        launch(op, [&result, done](Operation&, CURLcode code) {
-            result = code;
-            done(nullptr);
-        });
-    });
-    return result;
+CURLcode CurlTransferClient::run(Operation& op) {
+    const CURLcode code = drivers_.run(*op.lease.get());
+    settle(op, code);
+    return code;
 }
 
 std::string CurlTransferClient::readText(const std::string& url, bool namesOnly, bool headersOnly) {
@@ -192,7 +191,7 @@ std::string CurlTransferClient::readText(const std::string& url, bool namesOnly,
     }
     curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, appendToData);
     curl_easy_setopt(h, CURLOPT_WRITEDATA, &op->text);
-    if (const CURLcode code = run(op); code != CURLE_OK) {
+    if (const CURLcode code = run(*op); code != CURLE_OK) {
         throw failure(code);
     }
     return isValidUtf8(op->text) ? std::move(op->text) : std::string{};
@@ -260,11 +259,6 @@ void CurlTransferClient::startDownload(const std::string& url, const std::filesy
     });
 }
 
-void CurlTransferClient::download(const std::string& url, const std::filesystem::path& to,
-                                  std::int64_t resumeFrom, const ProgressCallback& onProgress) {
-    waitFor([&](Completion done) { startDownload(url, to, resumeFrom, onProgress, done); });
-}
-
 void CurlTransferClient::startRemoveItem(const std::string& folder, const std::string& item,
                                          const char* ftpVerb, const char* sftpVerb,
                                          Completion done) {
@@ -315,10 +309,6 @@ void CurlTransferClient::startRemoveDirectory(const std::string& path, Completio
     startRemoveItem(folder, item, "RMD", "rmdir", std::move(done));
 }
 
-void CurlTransferClient::removeDirectory(const std::string& path) {
-    waitFor([&](Completion done) { startRemoveDirectory(path, done); });
-}
-
 void CurlTransferClient::startRemoveFile(const std::string& name, Completion done) {
     const auto [below, item] = splitLast(name);
     std::string folder = config_.remotePath;
@@ -326,10 +316,6 @@ void CurlTransferClient::startRemoveFile(const std::string& name, Completion don
         folder += (folder.ends_with('/') ? "" : "/") + below;
     }
     startRemoveItem(folder, item, "DELE", "rm", std::move(done));
-}
-
-void CurlTransferClient::removeFile(const std::string& name) {
-    waitFor([&](Completion done) { startRemoveFile(name, done); });
 }
 
 void CurlTransferClient::probeConnection() {

@@ -21,8 +21,8 @@ namespace tarnel {
 using ProgressCallback = std::function<void(std::int64_t downloaded, std::int64_t total)>;
 
 // The one place that talks libcurl. Turns a connection record into libcurl options and offers
-// operations that fail with FTPError: blocking ones, never to be called on the main thread, and
-// for downloads and removals ones that report to a Completion. Callable from several threads at
+// operations that fail with FTPError: listings block, never to be called on the main thread;
+// downloads and removals report to a Completion. Callable from several threads at
 // once; each operation borrows its own easy handle from a small pool, so consecutive operations
 // reuse the session a handle keeps open; they run on the client's driver threads.
 class CurlTransferClient {
@@ -45,14 +45,10 @@ public:
     // `done` runs on the driver's thread once the file is closed; `onProgress` there too.
     void startDownload(const std::string& url, const std::filesystem::path& to,
                        std::int64_t resumeFrom, ProgressCallback onProgress, Completion done);
-    void download(const std::string& url, const std::filesystem::path& to, std::int64_t resumeFrom,
-                  const ProgressCallback& onProgress);
     // `path` is the folder's path as the listing named it: `remotePath` and the folders below.
     void startRemoveDirectory(const std::string& path, Completion done);
-    void removeDirectory(const std::string& path);
     // `name` is a path below `remotePath`.
     void startRemoveFile(const std::string& name, Completion done);
-    void removeFile(const std::string& name);
     // Both address exactly what listing and download address. Over FTP a URL's path is relative
     // to the login folder (libcurl changes into each of its folders from there, also on a reused
     // session), so the command goes after libcurl has entered the item's folder and names the
@@ -80,11 +76,14 @@ private:
     // A pooled session set up for `url`; code -1 if libcurl could not make one.
     std::shared_ptr<Operation> operation(const std::string& url);
     void configureHandle(CURL* handle, const std::string& url);
-    // Runs the operation on the driver; `finish` gets it back with its result, on the driver's
-    // thread. A session whose operation failed is not used again.
+    // Runs the operation on a driver; `finish` gets it back with its result, on the driver's
+    // thread.
     void launch(std::shared_ptr<Operation> op, Finish finish);
-    // launch(), waiting for the result.
-    CURLcode run(const std::shared_ptr<Operation>& op);
+    // Runs the operation on a driver and waits for its result.
+    CURLcode run(Operation& op);
+    // After an operation: counts its connections and gives its session back, unless the
+    // operation failed: such a session is not used again.
+    void settle(Operation& op, CURLcode code);
     std::string readText(const std::string& url, bool namesOnly, bool headersOnly);
     // Removes `item` of `folder` (a path below the server root as the URLs spell it) with the
     // FTP command `ftpVerb` or the SFTP command `sftpVerb`.

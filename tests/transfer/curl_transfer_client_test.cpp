@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/testing/wait_for.h"
 #include "transfer/ftp_error.h"
 #include "transfer/listing_parser.h"
 #include "transfer/ssh_known_hosts.h"
@@ -29,6 +30,15 @@ FTPError failureOf(Op op) {
     return FTPError::parseFailed("none");
 }
 
+// The client's operations that report to a Completion, waited for.
+void download(CurlTransferClient& client, const std::string& url, const fs::path& to,
+              std::int64_t resumeFrom, ProgressCallback onProgress = {}) {
+    waitFor([&](Completion done) { client.startDownload(url, to, resumeFrom, onProgress, done); });
+}
+void removeFile(CurlTransferClient& client, const std::string& name) {
+    waitFor([&](Completion done) { client.startRemoveFile(name, done); });
+}
+
 using ClientTest = TransferTest;
 
 TEST_P(ClientTest, everyOperationRidesOnOneSession) {
@@ -48,12 +58,12 @@ TEST_P(ClientTest, everyOperationRidesOnOneSession) {
 
     const fs::path local = dir / "local" / "a.txt";
     std::int64_t lastDownloaded = 0, lastTotal = 0;
-    client->download(base + "a.txt", local, 0, {});
+    download(*client, base + "a.txt", local, 0, {});
     EXPECT_EQ(read(local), body);
 
     // Resume: the callback sees whole-file figures.
     write(local, body.substr(0, 100'000));
-    client->download(base + "a.txt", local, 100'000, [&](std::int64_t d, std::int64_t t) {
+    download(*client, base + "a.txt", local, 100'000, [&](std::int64_t d, std::int64_t t) {
         lastDownloaded = d;
         lastTotal = t;
     });
@@ -62,9 +72,9 @@ TEST_P(ClientTest, everyOperationRidesOnOneSession) {
     EXPECT_EQ(lastTotal, 300'000);
 
     // A blank in the path: raw for FTP's DELE, quoted for SFTP's rm.
-    client->removeFile("sub dir/b c.txt");
+    removeFile(*client, "sub dir/b c.txt");
     EXPECT_FALSE(fs::exists(root / "sub dir" / "b c.txt"));
-    client->removeDirectory("sub dir");
+    waitFor([&](Completion done) { client->startRemoveDirectory("sub dir", done); });
     EXPECT_FALSE(fs::exists(root / "sub dir"));
     // One session for all seven operations; FTP adds a data connection to each of the five
     // that read something; the removals ask for no listing after them.
@@ -88,21 +98,21 @@ TEST_P(ClientTest, aFailedFirstAttemptLeavesNothingAResumedOneKeepsItsBytes) {
     // Far past the receive buffer: what libssh2 still held when the cut came is lost.
     server->cutTransfersAfter(4'000'000);
     write(local, "older bytes");
-    EXPECT_NE(failureOf([&] { client->download(url, local, 0, {}); }).curlCode(), 0);
+    EXPECT_NE(failureOf([&] { download(*client, url, local, 0, {}); }).curlCode(), 0);
     EXPECT_FALSE(fs::exists(local));
 
     write(local, body.substr(0, 1000));
-    EXPECT_NE(failureOf([&] { client->download(url, local, 1000, {}); }).curlCode(), 0);
+    EXPECT_NE(failureOf([&] { download(*client, url, local, 1000, {}); }).curlCode(), 0);
     const std::string kept = read(local);
     EXPECT_GT(kept.size(), 1000u);
     EXPECT_EQ(kept, body.substr(0, kept.size()));
 
     server->cutTransfersAfter(std::nullopt);
-    client->download(url, local, static_cast<std::int64_t>(kept.size()), {});
+    download(*client, url, local, static_cast<std::int64_t>(kept.size()), {});
     EXPECT_EQ(read(local), body);
 
     const fs::path unwritable = dir / "missing folder" / "x";
-    EXPECT_EQ(failureOf([&] { client->download(url, unwritable, 0, {}); }).kind(),
+    EXPECT_EQ(failureOf([&] { download(*client, url, unwritable, 0, {}); }).kind(),
               FTPError::Kind::localFolderNotWritable);
 }
 
@@ -112,7 +122,7 @@ TEST_P(ClientTest, serverRefusalsBecomeTheirSentences) {
     const std::string base = client->config().baseRemoteURL();
 
     server->refuseDeletes(true);
-    const FTPError refusedDelete = failureOf([&] { client->removeFile("keep.txt"); });
+    const FTPError refusedDelete = failureOf([&] { removeFile(*client, "keep.txt"); });
     EXPECT_EQ(refusedDelete.curlCode(), CURLE_QUOTE_ERROR);
     EXPECT_EQ(refusedDelete.errorDescription(),
               "FTP quote command failed. Check the remote path or delete permissions.");
@@ -179,8 +189,7 @@ TEST_F(FtpClientTest, aReplyLongInComingHoldsUpNoOtherSession) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     ASSERT_FALSE(fs::exists(root / "slow.txt"));
 
-    client->download(client->config().baseRemoteURL() + "fast.txt", dir / "local" / "fast.txt", 0,
-                     {});
+    download(*client, client->config().baseRemoteURL() + "fast.txt", dir / "local" / "fast.txt", 0);
     EXPECT_EQ(read(dir / "local" / "fast.txt"), "f");
     EXPECT_EQ(answered.wait_for(std::chrono::seconds(0)), std::future_status::timeout);
     EXPECT_EQ(answered.get(), nullptr);
@@ -224,7 +233,7 @@ TEST_F(SftpClientTest, logsInWithAKeyFile) {
     auto config = server->connectionConfig();
     config.password = "";
     config.sshKeyPath = server->clientKeyPath().string();
-    makeClient(config)->download(config.baseRemoteURL() + "k.txt", dir / "local" / "k.txt", 0, {});
+    download(*makeClient(config), config.baseRemoteURL() + "k.txt", dir / "local" / "k.txt", 0, {});
     EXPECT_EQ(read(dir / "local" / "k.txt"), "key");
 }
 

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/testing/virtual_loop.h"
+#include "platform/testing/wait_for.h"
 #include "transfer/ftp_error.h"
 #include "transfer_fixture.h"
 

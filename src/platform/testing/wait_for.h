@@ -1,11 +1,17 @@
-#include "platform/completion.h"
+#pragma once
 
 #include <future>
 #include <memory>
 
+#include "platform/completion.h"
+
 namespace tarnel {
 
-void waitFor(const std::function<void(Completion)>& start) {
+// Runs `start`, which begins an operation that reports to a Completion, and waits for it;
+// rethrows its failure, also one that `start` itself throws. For tests and benchmarks, which
+// may block.
+template <typename Start>
+void waitFor(Start start) {
     // Shared: the completing thread may still be inside set_value when the waiter has returned.
     auto outcome = std::make_shared<std::promise<std::exception_ptr>>();
     auto future = outcome->get_future();
