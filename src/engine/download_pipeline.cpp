@@ -66,10 +66,10 @@ Task<std::vector<TransferResult>> SyncEngine::downloadStableFiles(std::vector<Tr
     // A limit below 1 (an edited file) downloads one at a time rather than waiting for ever.
     co_return co_await slidingWindow<TransferResult>(
         services_.runtime.loop, stable, config_.maxConcurrentDownloads,
-        [this, &stable, &started](const TrackedFile& file) {
+        [this, &stable, &started](const TrackedFile& file, WindowSlot slot) {
             if (started % recordsWrittenAhead == 0) recordAhead(stable, started);
             ++started;
-            return transferFile(file, ++renameCounter_);
+            return transferFile(file, ++renameCounter_, std::move(slot));
         });
 }
 
@@ -179,7 +179,7 @@ void SyncEngine::removeProgressRow(const Uuid& rowId) {
     activeDownloads_.set(std::move(rows));
 }
 
-Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
+Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, WindowSlot slot) {
     auto self = shared_from_this();
     const Clock& clock = services_.runtime.clock;
     auto& partials = services_.partialTracker;
@@ -342,6 +342,9 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter) {
         if (!config_.deleteAfterDownload) placedRecords_.push_back(key);
         if (config_.autoDecompress) decompressIfNeeded(placed);
 
+        // The next file starts now: its download waits for a session only while every one is
+        // busy, and takes over this delete's session the moment the delete is done.
+        slot.release();
         if (config_.deleteAfterDownload) {
             std::optional<std::string> deleteError;
             try {

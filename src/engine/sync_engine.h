@@ -23,6 +23,7 @@
 
 namespace tarnel {
 
+class WindowSlot;
 class DownloadTracker;
 
 // In this order; across engines the worst counts: error, syncing, connected, idle.
@@ -92,7 +93,7 @@ public:
     // The stability pass of a successful poll: returns the files whose size has settled.
     std::vector<TrackedFile> updateStability(const std::vector<FTPFileEntry>& entries);
     // Brings one stable file to its place. Never throws: a failure is a result.
-    Task<TransferResult> transferFile(TrackedFile file, int counter);
+    Task<TransferResult> transferFile(TrackedFile file, int counter, WindowSlot slot);
 
 private:
     void startTimer();

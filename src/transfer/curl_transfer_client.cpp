@@ -1,8 +1,10 @@
 #include "transfer/curl_transfer_client.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cstdio>
 #include <cstring>
+#include <future>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -73,7 +75,9 @@ constexpr long receiveBufferSize = 512 * 1024;
 
 CurlTransferClient::CurlTransferClient(ConnectionConfig config,
                                        std::filesystem::path knownHostsFile)
-    : config_(std::move(config)), knownHostsFile_(std::move(knownHostsFile)) {
+    : config_(std::move(config)),
+      knownHostsFile_(std::move(knownHostsFile)),
+      sessionLimit_(std::max(1, config_.maxConcurrentDownloads)) {
     static std::once_flag globalInit;
     std::call_once(globalInit, [] { curl_global_init(CURL_GLOBAL_ALL); });
     hostKeyPolicy_ = KnownHostsPolicy{knownHostsFile_, config_.host, config_.port};
@@ -122,8 +126,12 @@ void CurlTransferClient::configureHandle(CURL* h, const std::string& url) {
 // What an operation keeps alive until it has ended: its session and whatever libcurl was given
 // pointers to.
 struct CurlTransferClient::Operation {
-    explicit Operation(EasyHandlePool::Lease session) : lease(std::move(session)) {}
-    EasyHandlePool::Lease lease;
+    explicit Operation(std::string at, Options set = {})
+        : url(std::move(at)), options(std::move(set)) {}
+    std::string url;
+    Options options;
+    Finish finish;
+    std::optional<EasyHandlePool::Lease> lease;
     std::string text;  // what a listing receives
     std::unique_ptr<FILE, int (*)(FILE*)> file{nullptr, std::fclose};
     std::unique_ptr<curl_slist, void (*)(curl_slist*)> commands{nullptr, curl_slist_free_all};
@@ -144,54 +152,74 @@ void CurlTransferClient::countConnections(CURL* handle) {
     connectionsOpened_ += opened;
 }
 
-std::shared_ptr<CurlTransferClient::Operation> CurlTransferClient::operation(
-    const std::string& url) {
-    auto op = std::make_shared<Operation>(pool_.acquire());
-    if (!op->lease) {
-        throw FTPError::curlExitCode(-1, "Failed to initialize libcurl");
+void CurlTransferClient::launch(std::shared_ptr<Operation> op, Finish finish) {
+    op->finish = std::move(finish);
+    {
+        std::lock_guard lock(turnsMutex_);
+        if (sessionsInUse_ >= sessionLimit_) {
+            waiting_.push_back(std::move(op));
+            return;
+        }
+        ++sessionsInUse_;
     }
-    configureHandle(op->lease.get()->easy(), url);
-    return op;
+    begin(std::move(op));
 }
 
-void CurlTransferClient::settle(Operation& op, CURLcode code) {
-    countConnections(op.lease.get()->easy());
+void CurlTransferClient::begin(std::shared_ptr<Operation> op) {
+    op->lease.emplace(pool_.acquire());
+    if (!*op->lease) {
+        end(op, CURLE_FAILED_INIT);
+        return;
+    }
+    CurlSession& session = *op->lease->get();
+    configureHandle(session.easy(), op->url);
+    if (op->options) op->options(*op, session.easy());
+    drivers_.start(session, [this, op](CURLcode code) { end(op, code); });
+}
+
+void CurlTransferClient::end(const std::shared_ptr<Operation>& op, CURLcode code) {
+    if (CURL* easy = op->lease->get()->easy()) countConnections(easy);
     if (code != CURLE_OK) {
         // One refused CWD or a cut connection can leave the session where every later
         // operation fails; a fresh login costs little beside that.
-        op.lease.discard();
+        op->lease->discard();
     }
     // Back in the pool before anyone learns of the end, so that the next operation finds it.
-    op.lease.end();
+    op->lease->end();
+    op->finish(*op, code);
+    std::shared_ptr<Operation> next;
+    {
+        std::lock_guard lock(turnsMutex_);
+        if (waiting_.empty()) {
+            --sessionsInUse_;
+            return;
+        }
+        next = std::move(waiting_.front());
+        waiting_.pop_front();
+    }
+    begin(std::move(next));
 }
 
-void CurlTransferClient::launch(std::shared_ptr<Operation> op, Finish finish) {
-    CurlSession& session = *op->lease.get();
-    drivers_.start(session, [this, op, finish = std::move(finish)](CURLcode code) {
-        settle(*op, code);
-        finish(*op, code);
-    });
-}
-
-CURLcode CurlTransferClient::run(Operation& op) {
-    const CURLcode code = drivers_.run(*op.lease.get());
-    settle(op, code);
-    return code;
+CURLcode CurlTransferClient::run(const std::shared_ptr<Operation>& op) {
+    std::promise<CURLcode> result;
+    auto code = result.get_future();
+    launch(op, [&result](Operation&, CURLcode c) { result.set_value(c); });
+    return code.get();
 }
 
 std::string CurlTransferClient::readText(const std::string& url, bool namesOnly, bool headersOnly) {
-    auto op = operation(url);
-    CURL* h = op->lease.get()->easy();
-    if (namesOnly) {
-        curl_easy_setopt(h, CURLOPT_DIRLISTONLY, 1L);
-    }
-    if (headersOnly) {
-        curl_easy_setopt(h, CURLOPT_NOBODY, 1L);
-        curl_easy_setopt(h, CURLOPT_HEADER, 1L);
-    }
-    curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, appendToData);
-    curl_easy_setopt(h, CURLOPT_WRITEDATA, &op->text);
-    if (const CURLcode code = run(*op); code != CURLE_OK) {
+    auto op = std::make_shared<Operation>(url, [namesOnly, headersOnly](Operation& o, CURL* h) {
+        if (namesOnly) {
+            curl_easy_setopt(h, CURLOPT_DIRLISTONLY, 1L);
+        }
+        if (headersOnly) {
+            curl_easy_setopt(h, CURLOPT_NOBODY, 1L);
+            curl_easy_setopt(h, CURLOPT_HEADER, 1L);
+        }
+        curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, appendToData);
+        curl_easy_setopt(h, CURLOPT_WRITEDATA, &o.text);
+    });
+    if (const CURLcode code = run(op); code != CURLE_OK) {
         throw failure(code);
     }
     return isValidUtf8(op->text) ? std::move(op->text) : std::string{};
@@ -212,25 +240,32 @@ std::string CurlTransferClient::listNames(const std::string& url) {
 void CurlTransferClient::startDownload(const std::string& url, const std::filesystem::path& to,
                                        std::int64_t resumeFrom, ProgressCallback onProgress,
                                        Completion done) {
-    auto op = operation(url);
-    CURL* h = op->lease.get()->easy();
+    const bool ftp = isFTPFamily(config_.transferProtocol);
+    auto op = std::make_shared<Operation>(url, [ftp, resumeFrom](Operation& o, CURL* h) {
+        if (resumeFrom > 0) {
+            curl_easy_setopt(h, CURLOPT_RESUME_FROM_LARGE, static_cast<curl_off_t>(resumeFrom));
+        } else if (ftp) {
+            // No SIZE before RETR: one round trip less per file. The listing gave the size, and
+            // the caller checks the file against it; a resume still asks, to find where to go on
+            // from.
+            curl_easy_setopt(h, CURLOPT_IGNORE_CONTENT_LENGTH, 1L);
+        }
+        curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, writeToFile);
+        curl_easy_setopt(h, CURLOPT_WRITEDATA, o.file.get());
+        // libssh2 keeps more SFTP reads in flight with a larger buffer: about 40% faster over
+        // SFTP (bench/README.md). A cut connection may then lose up to one buffer of bytes.
+        curl_easy_setopt(h, CURLOPT_BUFFERSIZE, receiveBufferSize);
+        if (o.progress) {
+            curl_easy_setopt(h, CURLOPT_NOPROGRESS, 0L);
+            curl_easy_setopt(h, CURLOPT_XFERINFODATA, &*o.progress);
+            curl_easy_setopt(h, CURLOPT_XFERINFOFUNCTION, reportProgress);
+        }
+    });
     // A fresh download truncates any older file here, before the server is contacted.
     op->file.reset(std::fopen(to.c_str(), resumeFrom > 0 ? "ab" : "wb"));
     if (!op->file) {
         throw FTPError::localFolderNotWritable(to.string());
     }
-    if (resumeFrom > 0) {
-        curl_easy_setopt(h, CURLOPT_RESUME_FROM_LARGE, static_cast<curl_off_t>(resumeFrom));
-    } else if (isFTPFamily(config_.transferProtocol)) {
-        // No SIZE before RETR: one round trip less per file. The listing gave the size, and the
-        // caller checks the file against it; a resume still asks, to find where to go on from.
-        curl_easy_setopt(h, CURLOPT_IGNORE_CONTENT_LENGTH, 1L);
-    }
-    curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, writeToFile);
-    curl_easy_setopt(h, CURLOPT_WRITEDATA, op->file.get());
-    // libssh2 keeps more SFTP reads in flight with a larger buffer: about 40% faster over
-    // SFTP (bench/README.md). A cut connection may then lose up to one buffer of bytes.
-    curl_easy_setopt(h, CURLOPT_BUFFERSIZE, receiveBufferSize);
     if (onProgress) {
         // The caller sees whole-file figures: the offset is added to both, unless the total is
         // still unknown (0).
@@ -239,9 +274,6 @@ void CurlTransferClient::startDownload(const std::string& url, const std::filesy
                                                              std::int64_t total) {
                 onProgress(downloaded + resumeFrom, total > 0 ? total + resumeFrom : total);
             }});
-        curl_easy_setopt(h, CURLOPT_NOPROGRESS, 0L);
-        curl_easy_setopt(h, CURLOPT_XFERINFODATA, &*op->progress);
-        curl_easy_setopt(h, CURLOPT_XFERINFOFUNCTION, reportProgress);
     }
     launch(std::move(op), [this, to, resumeFrom, done = std::move(done)](Operation& o,
                                                                            CURLcode code) {
@@ -277,13 +309,13 @@ void CurlTransferClient::startRemoveItem(const std::string& folder, const std::s
         }
         command = std::string(sftpVerb) + " " + quotedForSFTP(path + item);
     }
-    auto op = operation(url);
-    CURL* h = op->lease.get()->easy();
+    auto op = std::make_shared<Operation>(url, [ftp](Operation& o, CURL* h) {
+        // FTP: after libcurl's own CWDs into the folder; no body, so no listing follows.
+        curl_easy_setopt(h, ftp ? CURLOPT_POSTQUOTE : CURLOPT_QUOTE, o.commands.get());
+        curl_easy_setopt(h, CURLOPT_NOBODY, 1L);
+        curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, discardBytes);
+    });
     op->commands.reset(curl_slist_append(nullptr, command.c_str()));
-    // FTP: after libcurl's own CWDs into the folder; no body, so no listing follows.
-    curl_easy_setopt(h, ftp ? CURLOPT_POSTQUOTE : CURLOPT_QUOTE, op->commands.get());
-    curl_easy_setopt(h, CURLOPT_NOBODY, 1L);
-    curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, discardBytes);
     launch(std::move(op), [this, done = std::move(done)](Operation&, CURLcode code) {
         done(code == CURLE_OK ? nullptr : std::make_exception_ptr(failure(code)));
     });

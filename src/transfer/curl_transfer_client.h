@@ -2,9 +2,11 @@
 
 #include <atomic>
 #include <cstdint>
+#include <deque>
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <string_view>
 
@@ -25,6 +27,9 @@ using ProgressCallback = std::function<void(std::int64_t downloaded, std::int64_
 // downloads and removals report to a Completion. Callable from several threads at
 // once; each operation borrows its own easy handle from a small pool, so consecutive operations
 // reuse the session a handle keeps open; they run on the client's driver threads.
+// No more than `maxConcurrentDownloads` sessions are open at once: further operations wait
+// their turn, and a session that ends one operation goes straight on to the next, without
+// waiting for whoever asked for it.
 class CurlTransferClient {
 public:
     // SFTP host keys are trusted on first use and recorded in `knownHostsFile`; a key that
@@ -53,6 +58,7 @@ public:
     // to the login folder (libcurl changes into each of its folders from there, also on a reused
     // session), so the command goes after libcurl has entered the item's folder and names the
     // item alone. SFTP paths are absolute.
+
     // Reaches the server without logging in; a refused login counts as an answer. Always on a
     // new handle, so it proves the server is there now.
     void probeConnection();
@@ -71,19 +77,22 @@ public:
 
 private:
     struct Operation;
+    using Options = std::function<void(Operation&, CURL*)>;
     using Finish = std::function<void(Operation&, CURLcode)>;
 
-    // A pooled session set up for `url`; code -1 if libcurl could not make one.
-    std::shared_ptr<Operation> operation(const std::string& url);
     void configureHandle(CURL* handle, const std::string& url);
-    // Runs the operation on a driver; `finish` gets it back with its result, on the driver's
-    // thread.
+    // Runs an operation on `url` with the connection's options and then `options`, on a
+    // session of its own as soon as one is free; `finish` gets it back with its result, on a
+    // driver's thread.
     void launch(std::shared_ptr<Operation> op, Finish finish);
-    // Runs the operation on a driver and waits for its result.
-    CURLcode run(Operation& op);
+    // launch(), then waits for the result.
+    CURLcode run(const std::shared_ptr<Operation>& op);
+    // Starts `op` on a session; the caller holds one of the `sessionLimit_` turns for it.
+    void begin(std::shared_ptr<Operation> op);
     // After an operation: counts its connections and gives its session back, unless the
-    // operation failed: such a session is not used again.
-    void settle(Operation& op, CURLcode code);
+    // operation failed: such a session is not used again. Then tells the caller, and passes
+    // the turn on to the operation that has waited longest.
+    void end(const std::shared_ptr<Operation>& op, CURLcode code);
     std::string readText(const std::string& url, bool namesOnly, bool headersOnly);
     // Removes `item` of `folder` (a path below the server root as the URLs spell it) with the
     // FTP command `ftpVerb` or the SFTP command `sftpVerb`.
@@ -98,6 +107,10 @@ private:
     KnownHostsPolicy hostKeyPolicy_;
     EasyHandlePool pool_;
     std::atomic<std::int64_t> connectionsOpened_{0};
+    const int sessionLimit_;
+    std::mutex turnsMutex_;
+    int sessionsInUse_ = 0;                         // turns held
+    std::deque<std::shared_ptr<Operation>> waiting_;  // for a turn, oldest first
     // After the pool: operations they end on going give their sessions back to a pool still there.
     SessionDrivers drivers_;
 };

@@ -186,13 +186,29 @@ void SessionDriver::finish(Operation& op, CURLcode code) {
     done(code);
 }
 
+SessionDrivers::~SessionDrivers() {
+    std::vector<std::unique_ptr<SessionDriver>> drivers;
+    {
+        std::lock_guard lock(mutex_);
+        stopping_ = true;
+        drivers.swap(drivers_);
+    }
+    // Joined unlocked: a driver's `done` may still be calling start().
+    drivers.clear();
+}
+
 void SessionDrivers::start(CurlSession& session, SessionDriver::Done done) {
     // Chosen and started under the lock, so that two callers never pick the same idle driver.
     std::lock_guard lock(mutex_);
-    const auto idle = std::find_if(drivers_.begin(), drivers_.end(),
-                                   [](const auto& driver) { return driver->load() == 0; });
-    SessionDriver& driver =
-        idle != drivers_.end() ? **idle : *drivers_.emplace_back(std::make_unique<SessionDriver>());
+    if (stopping_) return;
+    const auto idle = [](const auto& driver) { return driver->load() == 0; };
+    auto chosen = std::find_if(drivers_.begin(), drivers_.end(), [&](const auto& driver) {
+        return driver->runsHere() && idle(driver);
+    });
+    if (chosen == drivers_.end()) chosen = std::find_if(drivers_.begin(), drivers_.end(), idle);
+    SessionDriver& driver = chosen != drivers_.end()
+                                ? **chosen
+                                : *drivers_.emplace_back(std::make_unique<SessionDriver>());
     driver.start(session, std::move(done));
 }
 

@@ -32,10 +32,13 @@ public:
     SessionDriver& operator=(const SessionDriver&) = delete;
 
     // Runs the operation set up on `session`'s easy handle. `done` gets its result on the
-    // driver's thread, when the driver no longer touches the session. Not from that thread.
+    // driver's thread, when the driver no longer touches the session. From that thread (a
+    // `done` handing its session on), the operation starts once the current round is over.
     void start(CurlSession& session, Done done);
     // Operations started and not yet done.
     std::size_t load() const { return load_; }
+    // Whether the caller runs on the driver's own thread.
+    bool runsHere() const { return std::this_thread::get_id() == thread_.get_id(); }
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -80,13 +83,21 @@ private:
 // many as the most operations that ever ran at once, which the engine keeps to a few.
 class SessionDrivers {
 public:
-    // SessionDriver::start() on a driver with nothing to do. Not from a driver's thread.
+    SessionDrivers() = default;
+    // Operations started later, from a driver's `done`, are dropped like those still running.
+    ~SessionDrivers();
+    SessionDrivers(const SessionDrivers&) = delete;
+    SessionDrivers& operator=(const SessionDrivers&) = delete;
+
+    // SessionDriver::start() on a driver with nothing to do: the caller's own, when a `done`
+    // starts the next operation, so that no other thread need be woken for it.
     void start(CurlSession& session, SessionDriver::Done done);
-    // start(), then waits for the result.
+    // start(), then waits for the result. Not from a driver's thread.
     CURLcode run(CurlSession& session);
 
 private:
     std::mutex mutex_;
+    bool stopping_ = false;
     std::vector<std::unique_ptr<SessionDriver>> drivers_;
 };
 

@@ -50,6 +50,37 @@ TEST_F(RuntimeTest, SlidingWindowKeepsLimitAndReturnsInCompletionOrder) {
     EXPECT_EQ(result, (std::vector<int>{10, 30, 20, 5}));
 }
 
+// A child that gives its place up lets the next one start; the window still waits for it.
+TEST_F(RuntimeTest, SlidingWindowStartsTheNextWhenAChildGivesItsPlaceUp) {
+    std::vector<int> result;
+    int started = 0;
+    auto job = [&](int ms, WindowSlot slot) -> Task<int> {
+        ++started;
+        co_await delay(loop, 5ms);
+        slot.release();
+        slot.release();  // a second time frees nothing more
+        co_await delay(loop, Duration(ms));
+        co_return ms;
+    };
+    std::vector<int> items{30, 10, 40};
+    bool finished = false;
+    auto body = [&]() -> Task<void> {
+        result = co_await slidingWindow<int>(loop, items, 1, job);
+        finished = true;
+    };
+    spawn(loop, body());
+    loop.advance(6ms);
+    EXPECT_EQ(started, 2);
+    loop.advance(5ms);
+    EXPECT_EQ(started, 3);
+    // The last ends at 55 ms: 10 + 5 + 40.
+    loop.advance(40ms);
+    EXPECT_FALSE(finished);
+    loop.advance(10ms);
+    EXPECT_TRUE(finished);
+    EXPECT_EQ(result, (std::vector<int>{10, 30, 40}));
+}
+
 TEST_F(RuntimeTest, SlidingWindowBelowOneStillFinishes) {
     std::vector<int> result;
     std::vector<int> items{1, 2};

@@ -151,6 +151,46 @@ TEST_P(ClientTest, serverRefusalsBecomeTheirSentences) {
     EXPECT_EQ(failureOf([&] { client->probeConnection(); }).curlCode(), CURLE_COULDNT_CONNECT);
 }
 
+// Two sessions allowed: six downloads asked for at once take turns on two logins, and those
+// that fail hand their turns on like the others.
+TEST_P(ClientTest, operationsBeyondTheSessionLimitWaitTheirTurn) {
+    auto config = server->connectionConfig();
+    config.maxConcurrentDownloads = 2;
+    auto client = makeClient(config);
+    const auto start = [&](const std::string& name) {
+        auto result = std::make_shared<std::promise<std::exception_ptr>>();
+        client->startDownload(config.baseRemoteURL() + name, dir / "local" / name, 0, {},
+                              [result](std::exception_ptr e) { result->set_value(e); });
+        return result->get_future();
+    };
+    const auto settled = [](std::future<std::exception_ptr>& f) {
+        return f.wait_for(std::chrono::seconds(30)) == std::future_status::ready;
+    };
+
+    std::vector<std::future<std::exception_ptr>> downloads;
+    for (int i = 0; i < 6; ++i) {
+        write(root / ("f" + std::to_string(i)), std::string(i + 1, 'x'));
+        downloads.push_back(start("f" + std::to_string(i)));
+    }
+    for (int i = 0; i < 6; ++i) {
+        ASSERT_TRUE(settled(downloads[i])) << i;
+        EXPECT_EQ(downloads[i].get(), nullptr);
+        EXPECT_EQ(read(dir / "local" / ("f" + std::to_string(i))), std::string(i + 1, 'x'));
+    }
+    const bool ftp = protocol() != ServerProtocol::sftp;
+    EXPECT_EQ(client->connectionsOpened(), ftp ? 2 + 6 : 2);
+
+    auto missing = start("missing");
+    auto gone = start("gone");
+    auto waiting = start("f1");
+    ASSERT_TRUE(settled(missing));
+    EXPECT_NE(missing.get(), nullptr);
+    ASSERT_TRUE(settled(gone));
+    EXPECT_NE(gone.get(), nullptr);
+    ASSERT_TRUE(settled(waiting));
+    EXPECT_EQ(waiting.get(), nullptr);
+}
+
 INSTANTIATE_TEST_SUITE_P(Servers, ClientTest,
                          ::testing::Values(ServerProtocol::ftp, ServerProtocol::ftps,
                                            ServerProtocol::sftp),
