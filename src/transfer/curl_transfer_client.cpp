@@ -201,9 +201,10 @@ void CurlTransferClient::end(const std::shared_ptr<Operation>& op, CURLcode code
 }
 
 CURLcode CurlTransferClient::run(const std::shared_ptr<Operation>& op) {
-    std::promise<CURLcode> result;
-    auto code = result.get_future();
-    launch(op, [&result](Operation&, CURLcode c) { result.set_value(c); });
+    // Shared: the promise may still be busy setting the result when the waiter wakes.
+    auto result = std::make_shared<std::promise<CURLcode>>();
+    auto code = result->get_future();
+    launch(op, [result](Operation&, CURLcode c) { result->set_value(c); });
     return code.get();
 }
 
