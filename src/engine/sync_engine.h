@@ -92,7 +92,8 @@ public:
     std::optional<FTPError> checkLocalFolder() const;
     // The stability pass of a successful poll: returns the files whose size has settled.
     std::vector<TrackedFile> updateStability(const std::vector<FTPFileEntry>& entries);
-    // Brings one stable file to its place. Never throws: a failure is a result.
+    // Brings one stable file to its place. Never throws: a failure is a result. Gives `slot` up
+    // once the file is placed, before the remote delete.
     Task<TransferResult> transferFile(TrackedFile file, int counter, WindowSlot slot);
 
 private:
