@@ -120,16 +120,19 @@ void benchTransfer(ServerProtocol protocol, const char* label, std::int64_t byte
         std::function<bool()> run;
         std::vector<double> seconds = {};
     };
+    const auto download = [&] {
+        tarnel::waitFor([&](tarnel::Completion done) { client.startDownload(url, local, 0, {}, done); });
+    };
     std::vector<Contender> contenders = {
         {"CurlTransferClient",
          [&] {
-             tarnel::waitFor([&](tarnel::Completion done) { client.startDownload(url, local, 0, {}, done); });
+             download();
              return true;
          }},
         {"CurlTransferClient, new session",
          [&] {
              client.closeIdleConnections();
-             tarnel::waitFor([&](tarnel::Completion done) { client.startDownload(url, local, 0, {}, done); });
+             download();
              return true;
          }},
         {"curl command-line tool", [&] { return curlTool(server, url, local); }},

@@ -4,7 +4,6 @@
 #include <cctype>
 #include <cstdio>
 #include <cstring>
-#include <future>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -201,11 +200,9 @@ void CurlTransferClient::end(const std::shared_ptr<Operation>& op, CURLcode code
 }
 
 CURLcode CurlTransferClient::run(const std::shared_ptr<Operation>& op) {
-    // Shared: the promise may still be busy setting the result when the waiter wakes.
-    auto result = std::make_shared<std::promise<CURLcode>>();
-    auto code = result->get_future();
-    launch(op, [result](Operation&, CURLcode c) { result->set_value(c); });
-    return code.get();
+    return waitForResult([&](SessionDriver::Done done) {
+        launch(op, [done = std::move(done)](Operation&, CURLcode code) { done(code); });
+    });
 }
 
 std::string CurlTransferClient::readText(const std::string& url, bool namesOnly, bool headersOnly) {
@@ -363,7 +360,8 @@ void CurlTransferClient::probeConnection() {
     curl_easy_setopt(h, CURLOPT_NOBODY, 1L);
     curl_easy_setopt(h, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, discardBytes);
-    const CURLcode code = drivers_.run(session);
+    const CURLcode code =
+        waitForResult([&](SessionDriver::Done done) { drivers_.start(session, std::move(done)); });
     countConnections(h);
     // A refused login still proves that something answers on the port.
     if (code != CURLE_OK && code != CURLE_LOGIN_DENIED) {

@@ -212,10 +212,11 @@ void SessionDrivers::start(CurlSession& session, SessionDriver::Done done) {
     driver.start(session, std::move(done));
 }
 
-CURLcode SessionDrivers::run(CurlSession& session) {
+CURLcode waitForResult(const std::function<void(SessionDriver::Done)>& start) {
+    // Shared: the promise may still be busy setting the result when the waiter wakes.
     auto result = std::make_shared<std::promise<CURLcode>>();
     auto future = result->get_future();
-    start(session, [result](CURLcode code) { result->set_value(code); });
+    start([result](CURLcode code) { result->set_value(code); });
     return future.get();
 }
 

@@ -80,7 +80,7 @@ private:
 // last reply, and for the reply to a command sent after it, by blocking in poll(): two
 // operations on one driver would wait for each other's server, for as long as a minute. So
 // each operation goes to a driver with nothing to do, made when there is none: there are as
-// many as the most operations that ever ran at once, which the engine keeps to a few.
+// many as the most operations that ever ran at once, which the client's session limit bounds.
 class SessionDrivers {
 public:
     SessionDrivers() = default;
@@ -92,13 +92,15 @@ public:
     // SessionDriver::start() on a driver with nothing to do: the caller's own, when a `done`
     // starts the next operation, so that no other thread need be woken for it.
     void start(CurlSession& session, SessionDriver::Done done);
-    // start(), then waits for the result. Not from a driver's thread.
-    CURLcode run(CurlSession& session);
 
 private:
     std::mutex mutex_;
     bool stopping_ = false;
     std::vector<std::unique_ptr<SessionDriver>> drivers_;
 };
+
+// Runs `start`, which begins an operation that reports its result once, and waits for that
+// result. Not from a driver's thread.
+CURLcode waitForResult(const std::function<void(SessionDriver::Done)>& start);
 
 }  // namespace tarnel
