@@ -167,7 +167,7 @@ TEST_F(PostProcessingTest, GzipFilesUnpackWholeOrNotAtAllAndNeverTouchAFileThatI
         {"cut.gz", "the file is cut short"},
         {"crc.gz", "the data of member 1 does not match its CRC-32"}};
     for (const auto& [name, reason] : reasons) {
-        EXPECT_EQ(readFile(inbox / name), readFile(cases / name)) << name;
+        EXPECT_TRUE(readFile(inbox / name) == readFile(cases / name)) << name << " changed";
         EXPECT_TRUE(hasLogLine("WARN [Test] Gzip decompress failed: " + name + " \u2014 " + reason))
             << name;
     }
