@@ -101,7 +101,8 @@ public:
               const std::uint64_t waited = runQueueWaitNs();
               const double gap = std::chrono::duration<double, std::milli>(now - last_).count();
               const double own = std::max(0.0, gap - (waited - lastWaited_) / 1e6);
-              if (own > longestOwn_) longestOwn_ = own, longestAfter_ = lastLine_;
+              if (own > longestOwn_) longestOwn_ = own, longestAfter_ = lineAtLastTick_;
+              lineAtLastTick_ = lastLine_;
               gaps_.push_back(gap);
               ownGaps_.push_back(own);
               last_ = now;
@@ -135,7 +136,7 @@ private:
     std::uint64_t lastWaited_ = runQueueWaitNs();
     std::vector<double> gaps_, ownGaps_;
     double longestOwn_ = 0;
-    std::string lastLine_, longestAfter_;
+    std::string lastLine_, lineAtLastTick_, longestAfter_;
     Subscription logged_;
     std::unique_ptr<Timer> timer_;
 };
