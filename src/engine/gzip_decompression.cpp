@@ -153,7 +153,7 @@ bool skipHeaderRest(Input& in) {
 bool startMember(Input& in, int member) {
     const int first = in.next();
     if (first == EOF) return false;
-    if (first == 0 && member > 1) {
+    if (first == 0) {
         for (int c = in.next(); c != EOF; c = in.next())
             if (c != 0) throw GzipDataError{"data that is not gzip follows the last member"};
         return false;

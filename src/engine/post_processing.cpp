@@ -73,7 +73,8 @@ Task<void> SyncEngine::decompressIfNeeded(fs::path file) {
         std::error_code ec;
         fs::rename(inflated, target, ec);
         if (ec) {
-            fs::remove(inflated, ec);
+            std::error_code ignored;
+            fs::remove(inflated, ignored);
             throw GzipFileError{"Could not move the file to '" + target.string() +
                                 "': " + ec.message()};
         }

@@ -40,6 +40,8 @@ case("UPPER.GZ", gz(b"upper body\n", "-n"), b"upper body\n")
 case("members.gz", gz(b"first member\n") + gz(b"second member\n") + gz(b""), b"first member\nsecond member\n")
 whole = gz(text)
 case("cut.gz", whole[: len(whole) // 2], b"")
+case("padded.gz", gz(b"padded body\n") + bytes(16), b"padded body\n")
+case("trailing.gz", gz(b"trailing body\n") + b"junk", b"")
 case("crc.gz", whole[:-8] + struct.pack("<II", zlib.crc32(text) ^ 1, len(text)), b"")
 c = zlib.compressobj(9, zlib.DEFLATED, -15)
 body = c.compress(text) + c.flush()
@@ -153,7 +155,7 @@ TEST_F(PostProcessingTest, GzipFilesUnpackWholeOrNotAtAllAndNeverTouchAFileThatI
     settings.setNotificationsEnabled(true);
     auto engine = runEngine();
 
-    for (std::string name : {"named.gz", "UPPER.GZ", "members.gz", "fields.gz"}) {
+    for (std::string name : {"named.gz", "UPPER.GZ", "members.gz", "fields.gz", "padded.gz"}) {
         const std::string plain = name.substr(0, name.size() - 3);
         EXPECT_EQ(readFile(inbox / plain), readFile(cases / (name + ".expected"))) << name;
         EXPECT_FALSE(fs::exists(inbox / name)) << name;
@@ -165,7 +167,8 @@ TEST_F(PostProcessingTest, GzipFilesUnpackWholeOrNotAtAllAndNeverTouchAFileThatI
         {"tiny.gz", "the file is cut short"},
         {"unended.gz", "the file is cut short"},
         {"cut.gz", "the file is cut short"},
-        {"crc.gz", "the data of member 1 does not match its CRC-32"}};
+        {"crc.gz", "the data of member 1 does not match its CRC-32"},
+        {"trailing.gz", "data that is not gzip follows the last member"}};
     for (const auto& [name, reason] : reasons) {
         EXPECT_TRUE(readFile(inbox / name) == readFile(cases / name)) << name << " changed";
         EXPECT_TRUE(hasLogLine("WARN [Test] Gzip decompress failed: " + name + " \u2014 " + reason))
@@ -185,14 +188,14 @@ TEST_F(PostProcessingTest, GzipFilesUnpackWholeOrNotAtAllAndNeverTouchAFileThatI
         EXPECT_EQ(h.destinationPath, inbox.string());
         EXPECT_EQ(h.sizeBytes, static_cast<std::int64_t>(fs::file_size(inbox / h.filename)));
     }
-    EXPECT_EQ(history.entries()().size(), 14u);
-    EXPECT_EQ(engine->totalTransferred()(), 9);
-    ASSERT_EQ(errors.size(), 5u);
+    EXPECT_EQ(history.entries()().size(), 17u);
+    EXPECT_EQ(engine->totalTransferred()(), 11);
+    ASSERT_EQ(errors.size(), 6u);
     EXPECT_EQ(errors["fake.gz"], "Failed to decompress fake.gz");
     EXPECT_EQ(errors["cut.gz"], "Failed to decompress cut.gz");
     EXPECT_EQ(std::count_if(notifier.posted.begin(), notifier.posted.end(),
                             [](const auto& p) { return p.title == "Tarnel: Connection error"; }),
-              5);
+              6);
 }
 
 // A daily archive of one name: each day's file lands beside the one before, as a download does.
