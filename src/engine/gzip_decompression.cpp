@@ -26,7 +26,9 @@ constexpr int flagName = 8;
 constexpr int flagComment = 16;
 constexpr std::size_t blockSize = 0x10000;
 // Ends in the download's temporary suffix, so that one left by a crash is swept at the next
-// start like an orphaned download.
+// start like an orphaned download. Of a fixed length: an archive's name near the longest a
+// folder allows leaves no room for more.
+constexpr const char* temporaryPrefix = "tarnel-inflating-";
 constexpr const char* temporarySuffix = ".tarnel-partial";
 
 GzipFileError fileError(const char* what, const fs::path& path) {
@@ -80,13 +82,13 @@ private:
 // removed again unless it is kept.
 class Output {
 public:
-    Output(const fs::path& source, mode_t mode) {
-        std::string pattern = source.string() + ".XXXXXX" + temporarySuffix;
+    explicit Output(const fs::path& source) {
+        std::string pattern =
+            (source.parent_path() / temporaryPrefix).string() + "XXXXXX" + temporarySuffix;
         fd_ = ::mkostemps(pattern.data(), static_cast<int>(std::strlen(temporarySuffix)),
                           O_CLOEXEC);
         if (fd_ < 0) throw fileError("create a file in", source.parent_path());
         path_ = pattern;
-        if (::fchmod(fd_, mode) != 0) throw fileError("write", path_);
     }
     ~Output() {
         if (fd_ >= 0) ::close(fd_);
@@ -104,9 +106,9 @@ public:
             size -= static_cast<std::size_t>(n);
         }
     }
-    // Its data on disk and the file closed: from here it outlives this object.
-    fs::path keep() {
-        if (::fdatasync(fd_) != 0) throw fileError("write", path_);
+    // With `mode`, its data on disk and the file closed: from here it outlives this object.
+    fs::path keep(mode_t mode) {
+        if (::fchmod(fd_, mode) != 0 || ::fdatasync(fd_) != 0) throw fileError("write", path_);
         const int fd = std::exchange(fd_, -1);
         if (::close(fd) != 0) throw fileError("write", path_);
         kept_ = true;
@@ -215,12 +217,12 @@ fs::path gunzipBeside(const fs::path& source) {
     Input in(source);
     // A file that is not gzip at all leaves no trace, not even an empty temporary file.
     if (in.peek() != 0x1F) throw GzipDataError{"not gzip data"};
-    Output out(source, in.mode());
+    Output out(source);
     std::uint64_t length = 0;
     for (int member = 1; startMember(in, member); ++member)
         length += inflateMember(in, out, member);
     if (length == 0) throw GzipDataError{"it inflates to nothing"};
-    return out.keep();
+    return out.keep(in.mode());
 }
 
 }  // namespace tarnel

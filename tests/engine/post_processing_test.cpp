@@ -200,11 +200,14 @@ TEST_F(PostProcessingTest, GzipFilesUnpackWholeOrNotAtAllAndNeverTouchAFileThatI
 
 // A daily archive of one name: each day's file lands beside the one before, as a download does.
 TEST_F(PostProcessingTest, EachDaysArchiveInflatesBesideTheDayBefore) {
-    server->files = {{"report.csv.gz", gzipped("monday\n")}};
+    server->files = {{"report.csv.gz", gzipped("monday\n")}, {"notes.txt", "plain"}};
     config.autoDecompress = true;
     config.checksumVerification = true;
     auto engine = runEngine();
     ASSERT_EQ(readFile(inbox / "report.csv"), "monday\n");
+    // Readable by whom a downloaded file is readable by, though inflated into a private file.
+    EXPECT_EQ(fs::status(inbox / "report.csv").permissions(),
+              fs::status(inbox / "notes.txt").permissions());
     EXPECT_TRUE(hasLogLine("[Test] MD5: report.csv.gz = " + md5Hex(gzipped("monday\n"))));
 
     server->files = {{"report.csv.gz", gzipped("tuesday\n")}};
