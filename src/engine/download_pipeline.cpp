@@ -322,8 +322,10 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         if (matchedRule) applyFinderTags(placed, matchedRule->tagColor, matchedRule->tagName);
         log(std::string("Verified") + (resume ? " (resumed)" : "") + ": " + key + " \u2014 " +
             formatFileByteCount(local));
-        if (config_.checksumVerification)
-            log("MD5: " + key + " = " + co_await computeMD5(services_.runtime, placed));
+        if (config_.checksumVerification) {
+            const std::string digest = co_await computeMD5(services_.runtime, placed);
+            log("MD5: " + key + " = " + digest);
+        }
 
         const std::string newName = applyRenamePattern(config_, file.name, counter, clock);
         if (newName != file.name) {
