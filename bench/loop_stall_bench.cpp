@@ -146,11 +146,9 @@ Task<void> pollThenQuit(std::shared_ptr<SyncEngine> engine) {
     QCoreApplication::quit();
 }
 
-int run(std::size_t mib, const fs::path& root) {
+int run(std::size_t mib, const fs::path& dir) {
     int argc = 0;
     QCoreApplication app(argc, nullptr);
-    const fs::path dir = root / "tarnel-loop-stall-bench";
-    fs::remove_all(dir);
     TestServer server({ServerProtocol::ftp, dir / "server"});
     writeArchive(server.root() / "big.bin.gz", mib);
     const auto archiveSize = fs::file_size(server.root() / "big.bin.gz");
@@ -211,7 +209,6 @@ int run(std::size_t mib, const fs::path& root) {
     busy->print("busy", seconds);
     idle->print("idle", std::chrono::duration<double>(Steady::now() - start).count());
     log.flush();
-    fs::remove_all(dir, ec);
     return 0;
 }
 
@@ -221,5 +218,11 @@ int run(std::size_t mib, const fs::path& root) {
 int main(int argc, char** argv) {
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     const std::size_t mib = argc > 1 ? std::strtoul(argv[1], nullptr, 10) : 2048;
-    return tarnel::run(mib, argc > 2 ? argv[2] : "/tmp");
+    const std::filesystem::path dir =
+        std::filesystem::path(argc > 2 ? argv[2] : "/tmp") / "tarnel-loop-stall-bench";
+    std::filesystem::remove_all(dir);
+    const int status = tarnel::run(mib, dir);
+    // Once every service is gone: the stores write their files as they end.
+    if (status == 0) std::filesystem::remove_all(dir);
+    return status;
 }
