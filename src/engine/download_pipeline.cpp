@@ -322,7 +322,10 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         if (matchedRule) applyFinderTags(placed, matchedRule->tagColor, matchedRule->tagName);
         log(std::string("Verified") + (resume ? " (resumed)" : "") + ": " + key + " \u2014 " +
             formatFileByteCount(local));
-        if (config_.checksumVerification) log("MD5: " + key + " = " + computeMD5(placed));
+        if (config_.checksumVerification) {
+            const std::string digest = co_await computeMD5(services_.runtime, placed);
+            log("MD5: " + key + " = " + digest);
+        }
 
         const std::string newName = applyRenamePattern(config_, file.name, counter, clock);
         if (newName != file.name) {
@@ -340,7 +343,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         // fetched again and always has its history entry.
         recordTransfer(result);
         if (!config_.deleteAfterDownload) placedRecords_.push_back(key);
-        if (config_.autoDecompress) decompressIfNeeded(placed);
+        if (config_.autoDecompress) co_await decompressIfNeeded(placed);
 
         // The next file starts now: its download waits for a session only while every one is
         // busy, and takes over this delete's session the moment the delete is done.

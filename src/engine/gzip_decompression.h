@@ -5,17 +5,24 @@
 
 namespace tarnel {
 
+// A gzip file that is not whole, sound gzip data, in words a user can act on.
+struct GzipDataError {
+    std::string description;
+};
+
 // A gzip or plain file that could not be opened, read or written, in words a user can act on.
 struct GzipFileError {
     std::string description;
 };
 
-// Inflates the body of the first member of the gzip file `source` into `target`, a fixed-size
-// block at a time, so that memory stays the same whatever the file inflates to. The header is
-// read here; only the deflate body goes to zlib. The CRC and length trailer are not checked, so
-// a file cut short gives what its body held up to the cut. Returns false, leaving no `target`
-// behind, for what is no gzip data, whose deflate data is corrupt, or that inflates to nothing.
-// Throws GzipFileError when `source` cannot be read or `target` written.
-bool gunzipFile(const std::filesystem::path& source, const std::filesystem::path& target);
+// Inflates every member of the gzip file `source` into a new temporary file beside it and
+// returns that file's path; no existing file is opened for writing. Each member's CRC-32 and
+// length are checked against its trailer, so a file cut short, a corrupt one or one that
+// inflates to nothing throws GzipDataError. The temporary file takes the mode of `source` and
+// its data is on disk before this returns, so that it can be renamed into place and `source`
+// removed. Memory stays the same whatever the file inflates to. Throws GzipFileError when
+// `source` cannot be read or the temporary file written. On any failure no temporary file is
+// left behind.
+std::filesystem::path gunzipBeside(const std::filesystem::path& source);
 
 }  // namespace tarnel

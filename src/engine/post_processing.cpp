@@ -2,6 +2,7 @@
 // of a whole batch.
 #include <system_error>
 
+#include "engine/destination.h"
 #include "engine/gzip_decompression.h"
 #include "engine/sync_engine.h"
 #include "platform/foundation_path.h"
@@ -43,7 +44,7 @@ std::vector<std::string> splitOnBlanks(const std::string& text) {
 }
 }  // namespace
 
-void SyncEngine::decompressIfNeeded(const fs::path& file) {
+Task<void> SyncEngine::decompressIfNeeded(fs::path file) {
     const std::string name = file.filename().string();
     const std::string extension = lowercased(pathExtension(file.string()));
     if (extension == "zip") {
@@ -52,38 +53,59 @@ void SyncEngine::decompressIfNeeded(const fs::path& file) {
             log("Could not open ZIP " + name + ": " + *error, LogLevel::warning);
         else
             log("Opened ZIP with system handler: " + name);
-        return;
+        co_return;
     }
     if (extension != "gz")
-        return;
+        co_return;
 
-    // The compressed file stays; the transfer itself stays a success.
-    const auto reportFailure = [&](const std::string& message, const std::string& logText) {
-        log(logText, LogLevel::warning);
-        services_.notifications.notifyConnectionError(config_.name, localized(message));
-        std::error_code ec;
-        const auto size = fs::file_size(file, ec);
-        services_.historyService.add({Uuid::random(), services_.runtime.clock.now(), name, name,
-                                      ec ? 0 : static_cast<std::int64_t>(size), config_.host,
-                                      config_.remotePath, file.parent_path().string(), config_.name,
-                                      TransferStatus::error, message});
-    };
-
+    // Reading, inflating and syncing a large file, and removing one, take seconds: they run on a
+    // worker. The engine is touched on the loop only, between the waits.
+    Runtime& runtime = services_.runtime;
+    std::string message, logText;
     try {
-        const fs::path target = stringByDeletingPathExtension(file.string());
-        if (!gunzipFile(file, target)) {
-            reportFailure("Failed to decompress " + name, "Gzip decompress failed: " + name);
-            return;
-        }
+        // Named, not temporary: g++ 12 destroys a temporary awaiter that owns a path twice.
+        auto inflating = onWorker(runtime, [file] { return gunzipBeside(file); });
+        const fs::path inflated = co_await inflating;
+        // Placed on the loop, where downloads are placed too, so that neither takes a name the
+        // other has just chosen.
+        const fs::path target =
+            uniqueDestinationURL(stringByDeletingPathExtension(file.string()));
         std::error_code ec;
-        fs::remove(file, ec);
-        if (ec)
-            log("Could not remove compressed source " + name + ": " + ec.message(),
+        fs::rename(inflated, target, ec);
+        if (ec) {
+            std::error_code ignored;
+            fs::remove(inflated, ignored);
+            throw GzipFileError{"Could not move the file to '" + target.string() +
+                                "': " + ec.message()};
+        }
+        auto removing = onWorker(runtime, [file] {
+            std::error_code error;
+            fs::remove(file, error);
+            return error;
+        });
+        const std::error_code removal = co_await removing;
+        if (removal)
+            log("Could not remove compressed source " + name + ": " + removal.message(),
                 LogLevel::warning);
         log("Decompressed: " + name + " \u2192 " + target.filename().string());
+        co_return;
+    } catch (const GzipDataError& e) {
+        message = "Failed to decompress " + name;
+        logText = "Gzip decompress failed: " + name + " \u2014 " + e.description;
     } catch (const GzipFileError& e) {
-        reportFailure("Decompress error: " + e.description, "Decompress error: " + e.description);
+        message = logText = "Decompress error: " + e.description;
     }
+
+    // The compressed file and every file beside it stay as they were; the transfer itself stays
+    // a success.
+    log(logText, LogLevel::warning);
+    services_.notifications.notifyConnectionError(config_.name, localized(message));
+    std::error_code ec;
+    const auto size = fs::file_size(file, ec);
+    services_.historyService.add({Uuid::random(), services_.runtime.clock.now(), name, name,
+                                  ec ? 0 : static_cast<std::int64_t>(size), config_.host,
+                                  config_.remotePath, file.parent_path().string(), config_.name,
+                                  TransferStatus::error, message});
 }
 
 void SyncEngine::runPostAction(const std::vector<std::string>& names) {

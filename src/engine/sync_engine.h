@@ -141,8 +141,9 @@ private:
     void endPoll();
     void log(const std::string& text, LogLevel level = LogLevel::info) const;
 
-    // After placing: a ".gz" is unpacked beside itself, a ".zip" handed to the desktop.
-    void decompressIfNeeded(const std::filesystem::path& file);
+    // After placing: a ".gz" is unpacked beside itself under a name of its own, a ".zip" handed
+    // to the desktop. Never throws; a failure leaves every file as it was.
+    Task<void> decompressIfNeeded(std::filesystem::path file);
     // The batch's post-action over its final names. Launch failures are logged, never raised.
     void runPostAction(const std::vector<std::string>& names);
     // Top-level folders that appeared on the server join the watched selection.
