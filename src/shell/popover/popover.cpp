@@ -107,6 +107,11 @@ void Popover::keyPressEvent(QKeyEvent* event) {
 
 void Popover::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
+    // Qt's own title bar under Wayland offers Maximize whatever the size hints say.
+    if (event->type() == QEvent::WindowStateChange && isMaximized()) {
+        setWindowState(windowState() & ~Qt::WindowMaximized);
+        return;
+    }
     if (event->type() != QEvent::ActivationChange || kind_ != Kind::popupWindow) return;
     if (isActiveWindow())
         wasActive_ = true;
