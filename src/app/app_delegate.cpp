@@ -1,12 +1,10 @@
 #include "app/app_delegate.h"
 
 #include <QApplication>
-#include <QCursor>
 #include <QScreen>
 
 #include "platform/qt/canberra_sound_player.h"
 #include "shell/settings/connections_settings_tab.h"
-#include "shell/tray/popup_placement.h"
 
 namespace tarnel {
 
@@ -74,7 +72,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     // appears.
     const bool trayExists = QSystemTrayIcon::isSystemTrayAvailable();
     makePopover(trayExists ? Popover::Kind::popup : Popover::Kind::window);
-    if (!trayExists) popover_->showAt({});
+    if (!trayExists) showPopover();
     // Once a tray appears the icon is the way in: the window gives way to the popup.
     QObject::connect(statusItem_.get(), &StatusIcon::trayAppeared, &context_,
                      [this] { makePopover(Popover::Kind::popup); });
@@ -112,22 +110,11 @@ void AppDelegate::makePopover(Popover::Kind kind) {
 }
 
 void AppDelegate::togglePopover() {
-    if (popover_->isVisible())
-        closePopover();
-    else
-        showPopover();
+    popover_->toggle(statusItem_->isVisible(), statusItem_->geometry());
 }
 
 void AppDelegate::showPopover() {
-    QPoint position;
-    if (popover_->kind() == Popover::Kind::popup) {
-        const QRect icon = statusItem_->geometry();
-        const QPoint pointer = QCursor::pos();
-        QScreen* screen = QGuiApplication::screenAt(icon.isEmpty() ? pointer : icon.center());
-        if (!screen) screen = QGuiApplication::primaryScreen();
-        position = popupPosition(icon, pointer, popover_->size(), screen->availableGeometry());
-    }
-    popover_->showAt(position);
+    popover_->open(statusItem_->isVisible(), statusItem_->geometry());
 }
 
 void AppDelegate::closePopover() {

@@ -33,7 +33,8 @@ public:
     void applicationWillTerminate();
 
     void togglePopover();
-    // Opens the popover at the icon (a second launch of the program asks for this too).
+    // Opens the popover in the form the tray allows (a second launch of the program asks for
+    // this too).
     void showPopover();
     void showSettings(SettingsTab tab, std::optional<Uuid> connectionId = std::nullopt);
     // Each built on first use and centred; a closed one comes back as it was, where it was.

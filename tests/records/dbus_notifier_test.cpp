@@ -19,6 +19,7 @@ class NotificationsReceiver : public QObject {
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
 public:
     struct Call {
+        QString appIcon;
         uint replacesId, id;
         QString summary, body;
         QVariantMap hints;
@@ -27,10 +28,10 @@ public:
     uint nextId = 1;
 
 public Q_SLOTS:
-    uint Notify(const QString&, uint replacesId, const QString&, const QString& summary,
+    uint Notify(const QString&, uint replacesId, const QString& appIcon, const QString& summary,
                 const QString& body, const QStringList&, const QVariantMap& hints, int) {
         const uint id = replacesId != 0 ? replacesId : nextId++;
-        calls.push_back({replacesId, id, summary, body, hints});
+        calls.push_back({appIcon, replacesId, id, summary, body, hints});
         return id;
     }
     QStringList GetCapabilities() {
@@ -71,6 +72,11 @@ TEST(DBusNotifier, AFixedIdentifierReplacesItsEarlierNotification) {
     ASSERT_TRUE(spinUntil([&] { return receiver.calls.size() == 3; }));
     const auto first = receiver.calls[0];
     EXPECT_EQ(first.replacesId, 0u);
+    // The desktop names the sender by its desktop entry and shows the application's icon.
+    for (const auto& call : receiver.calls) {
+        EXPECT_EQ(call.hints.value(QStringLiteral("desktop-entry")).toString(), QStringLiteral("tarnel"));
+        EXPECT_EQ(call.appIcon, QStringLiteral("tarnel"));
+    }
     EXPECT_EQ(first.hints.value(QStringLiteral("sound-name")).toString(),
               QStringLiteral("message-new-instant"));
     EXPECT_EQ(receiver.calls[1].replacesId, 0u);  // another identifier adds its own

@@ -45,14 +45,14 @@ TEST(PopupPlacement, OpensBesideTheIconOnTheScreensSideAndStaysInTheFreeArea) {
     const QRect screen(0, 0, 1280, 772);  // a 28-pixel panel at the bottom
     const QSize popup(360, 500);
     // An icon at the bottom right: above it, pushed left and clear of the panel.
-    EXPECT_EQ(popupPosition(QRect(1214, 774, 26, 26), {}, popup, screen), QPoint(920, 272));
+    EXPECT_EQ(popupPosition(QRect(1214, 774, 26, 26), popup, screen), QPoint(920, 272));
     // An icon in a top panel, in the middle: below it, centred on it.
     const QRect topScreen(0, 28, 1280, 772);
-    EXPECT_EQ(popupPosition(QRect(627, 1, 26, 26), {}, popup, topScreen), QPoint(459, 28));
-    // No rectangle from the tray: at the pointer, kept inside at the left edge.
-    EXPECT_EQ(popupPosition(QRect(), QPoint(5, 700), popup, screen), QPoint(0, 200));
+    EXPECT_EQ(popupPosition(QRect(627, 1, 26, 26), popup, topScreen), QPoint(459, 28));
+    // Near the left edge: kept inside.
+    EXPECT_EQ(popupPosition(QRect(2, 774, 26, 26), popup, screen), QPoint(0, 272));
     // Larger than the area: its top-left corner stays on screen.
-    EXPECT_EQ(popupPosition(QRect(), QPoint(50, 50), QSize(2000, 900), screen), QPoint(0, 0));
+    EXPECT_EQ(popupPosition(QRect(50, 50, 26, 26), QSize(2000, 900), screen), QPoint(0, 0));
 }
 
 }  // namespace

@@ -16,6 +16,9 @@ namespace {
 const QString service = QStringLiteral("org.freedesktop.Notifications");
 const QString path = QStringLiteral("/org/freedesktop/Notifications");
 const QString interface = QStringLiteral("org.freedesktop.Notifications");
+// The installed desktop entry, and the icon of the same name beside it: the desktop shows the
+// notification under the application's own name and icon, and lists it in its settings.
+const QString desktopEntry = QStringLiteral("tarnel");
 
 }  // namespace
 
@@ -49,13 +52,13 @@ void DBusNotifier::post(const std::string& identifier, const std::string& title,
 void DBusNotifier::send(const std::string& identifier, const Message& message) {
     auto& shown = shown_[identifier];
     shown.awaitingId = true;
-    QVariantMap hints;
+    QVariantMap hints{{QStringLiteral("desktop-entry"), desktopEntry}};
     if (message.withSound)
         hints.insert(QStringLiteral("sound-name"), QStringLiteral("message-new-instant"));
     else
         hints.insert(QStringLiteral("suppress-sound"), true);
     auto call = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Notify"));
-    call << QStringLiteral("Tarnel") << shown.id << QString() << message.title
+    call << QStringLiteral("Tarnel") << shown.id << desktopEntry << message.title
          << (bodyMarkup_ ? message.body.toHtmlEscaped() : message.body) << QStringList() << hints
          << -1;
 
