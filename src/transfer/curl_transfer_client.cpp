@@ -272,16 +272,15 @@ bool CurlTransferClient::waitForSession(std::shared_ptr<Operation> op, CURLcode 
     }
     {
         std::lock_guard lock(turnsMutex_);
-        // The sessions this connection has open besides this one: those at work (some may
-        // be refused too, which their own refusals then tell), and those kept idle, which the
-        // next operation rides on without a login.
+        // The sessions this connection has open besides this one: those at work, and those
+        // kept idle, which the next operation rides on without a login.
         const int open = sessionsInUse_ - 1 + static_cast<int>(pool_.idleCount());
         // Alone, the refusal is this login's own: a wrong password, or a server full of others.
         if (open < 1) return false;
-        if (open < sessionLimit_) {
-            sessionLimit_ = open;
-            sessionLimitUntold_ = true;
-        }
+        // Each refusal takes a session off the limit, and leaves no more than are open: of a
+        // burst of logins, those the server took remain. Others at work may be refused too.
+        sessionLimit_ = std::max(1, std::min(sessionLimit_ - 1, open));
+        sessionLimitUntold_ = true;
         op->waitedForSession = true;
         waiting_.push_front(std::move(op));
     }

@@ -127,7 +127,8 @@ TEST_P(SessionLimitTest, FourDownloadsAtOnceKeepToTheSessionsTheServerAccepts) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Servers, SessionLimitTest,
-                         ::testing::Values(NativeServerKind::vsftpd, NativeServerKind::pureFtpd),
+                         ::testing::Values(NativeServerKind::vsftpd, NativeServerKind::pureFtpd,
+                                           NativeServerKind::proftpd),
                          [](const auto& info) { return std::string(nativeServerName(info.param)); });
 
 }  // namespace

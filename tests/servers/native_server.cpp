@@ -232,7 +232,9 @@ void NativeServer::writeProftpdConfig(std::ofstream& conf) {
             "User nobody\nGroup nogroup\nScoreboardFile "
          << state << "/scoreboard\nPidFile " << state
          << "/proftpd.pid\nDelayTable none\nWtmpLog off\nUseReverseDNS off\n"
-            "AuthPAM off\nAuthOrder mod_auth_unix.c\nAllowOverwrite on\nMaxInstances 100\n"
+            "AuthPAM off\nAuthOrder mod_auth_unix.c\nAllowOverwrite on\nMaxInstances 100\n";
+    if (sessionsPerAddress_ > 0) conf << "MaxClientsPerHost " << sessionsPerAddress_ << "\n";
+    conf << 
             "ModulePath "
          << (unpacked / "proftpd/usr/lib/proftpd").string() << "\nSystemLog " << state
          << "/system.log\nExtendedLog " << state << "/protocol.log ALL default\n";

@@ -29,7 +29,7 @@ public:
 
     // Starts the server and waits until it accepts connections; throws std::runtime_error with
     // its output if it does not. `sessionsPerAddress` above 0 refuses the logins of a client
-    // address beyond that many at once (vsftpd, pure-ftpd), as many hosted servers do.
+    // address beyond that many at once (vsftpd, pure-ftpd, proftpd), as many hosted servers do.
     explicit NativeServer(NativeServerKind kind, int sessionsPerAddress = 0);
     ~NativeServer();
 
