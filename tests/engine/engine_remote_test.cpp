@@ -50,12 +50,12 @@ TEST_F(EngineRemoteTest, AFirstDownloadThatBreaksOffIsResumedByTheNextAttempt) {
     engine->start();
     loop.advance(10s);
     EXPECT_TRUE(hasLogLine("ERR [Test] Failed: big.bin"));
-    EXPECT_EQ(fs::file_size(dir / "inbox" / "big.bin.tarnel-partial"), 150'000u);
+    EXPECT_EQ(readFile(dir / "inbox" / "big.bin.tarnel-partial").size(), 150'000u);
 
     server->cutTransfersAfter(std::nullopt);
     loop.advance(10s);
     EXPECT_TRUE(hasLogLine("[Test] Resuming: big.bin from 150 KB (attempt 1/5)"));
-    EXPECT_EQ(readFile(dir / "inbox" / "big.bin"), content);
+    EXPECT_TRUE(readFile(dir / "inbox" / "big.bin") == content);
     EXPECT_EQ(filesBelow(dir / "inbox"), (std::vector<std::string>{"big.bin"}));
 }
 
@@ -81,8 +81,8 @@ INSTANTIATE_TEST_SUITE_P(Protocols, EngineRemoteNamesTest,
                          ::testing::Values(ServerProtocol::ftp, ServerProtocol::sftp),
                          [](const auto& info) { return std::string(serverProtocolName(info.param)); });
 
-// A server that takes two sessions from an address refuses the third and fourth login with 421:
-// those downloads wait for a session instead of failing.
+// A server that takes two sessions from an address refuses the third and fourth login (421 or
+// 530): those downloads wait for a session instead of failing.
 struct SessionLimitTest : EngineFixture, ::testing::WithParamInterface<NativeServerKind> {
     void SetUp() override {
         if (const auto why = NativeServer::unavailable(GetParam())) GTEST_SKIP() << *why;
