@@ -125,10 +125,8 @@ SyncEngine::Placement SyncEngine::placementOf(const TrackedFile& file) const {
 }
 
 std::string SyncEngine::remoteFileURL(const TrackedFile& file) const {
-    if (file.relativePath.empty()) return config_.baseRemoteURL() + percentEncodedPath(file.name);
-    const std::string full = stringByAppendingPathComponent(config_.remotePath, file.relativePath);
-    return config_.remoteURL(percentEncodedPath(stringByDeletingLastPathComponent(full))) +
-           percentEncodedPath(file.name);
+    return tarnel::remoteFileURL(config_, config_.remotePath,
+                                 trackingKey(file.name, file.relativePath));
 }
 
 RemoteService::ProgressCallback SyncEngine::progressReporter(const Uuid& rowId,

@@ -1,12 +1,14 @@
 #include "transfer/curl_transfer_client.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstdio>
 #include <cstring>
+#include <future>
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <system_error>
+#include <utility>
 
 #include <netdb.h>
 #include <sys/socket.h>
@@ -38,13 +40,20 @@ size_t discardBytes(char*, size_t size, size_t count, void*) {
 
 struct ProgressContext {
     std::function<void(std::int64_t, std::int64_t)> callback;
+    std::exception_ptr error;  // what the callback threw; it ended the transfer
 };
 
 int reportProgress(void* context, curl_off_t dltotal, curl_off_t dlnow, curl_off_t, curl_off_t) {
-    if (context != nullptr) {
-        static_cast<ProgressContext*>(context)->callback(dlnow, dltotal);
+    if (context == nullptr) return 0;
+    auto& progress = *static_cast<ProgressContext*>(context);
+    // An exception must not cross libcurl: it ends the transfer and becomes its error.
+    try {
+        progress.callback(dlnow, dltotal);
+    } catch (...) {
+        progress.error = std::current_exception();
+        return 1;
     }
-    return 0;  // never aborts the transfer
+    return 0;
 }
 
 bool isFTPFamily(TransferProtocol p) {
@@ -70,12 +79,24 @@ std::string withLeadingSlash(const std::string& path) {
 
 constexpr long receiveBufferSize = 512 * 1024;
 
+long seconds(std::chrono::seconds limit) {
+    return static_cast<long>(limit.count());
+}
+
+// FTP replies that refuse a login: "421 too many connections" at the greeting, "530" to the
+// password, as servers that limit sessions per user or address give them.
+bool refusesLogin(long reply) {
+    return reply == 421 || reply == 530;
+}
+
 }  // namespace
 
 CurlTransferClient::CurlTransferClient(ConnectionConfig config,
-                                       std::filesystem::path knownHostsFile)
+                                       std::filesystem::path knownHostsFile,
+                                       TransferTimeouts timeouts)
     : config_(std::move(config)),
       knownHostsFile_(std::move(knownHostsFile)),
+      timeouts_(timeouts),
       sessionLimit_(std::max(1, config_.maxConcurrentDownloads)) {
     static std::once_flag globalInit;
     std::call_once(globalInit, [] { curl_global_init(CURL_GLOBAL_ALL); });
@@ -87,12 +108,18 @@ std::string CurlTransferClient::serverRootURL() const {
            "://" + config_.host + ":" + std::to_string(config_.port) + "/";
 }
 
-void CurlTransferClient::configureHandle(CURL* h, const std::string& url) {
+void CurlTransferClient::configureHandle(CURL* h, const std::string& url, bool endsOnStall) {
     const TransferProtocol protocol = config_.transferProtocol;
     curl_easy_setopt(h, CURLOPT_URL, url.c_str());
     curl_easy_setopt(h, CURLOPT_USERPWD, (config_.username + ":" + config_.password).c_str());
-    curl_easy_setopt(h, CURLOPT_CONNECTTIMEOUT, 10L);
-    curl_easy_setopt(h, CURLOPT_TIMEOUT, 300L);
+    curl_easy_setopt(h, CURLOPT_CONNECTTIMEOUT, seconds(timeouts_.connect));
+    if (endsOnStall) {
+        // Less than a byte a second over the whole stall time: nothing is coming any more.
+        curl_easy_setopt(h, CURLOPT_LOW_SPEED_LIMIT, 1L);
+        curl_easy_setopt(h, CURLOPT_LOW_SPEED_TIME, seconds(timeouts_.stall));
+    } else {
+        curl_easy_setopt(h, CURLOPT_TIMEOUT, seconds(timeouts_.operation));
+    }
     curl_easy_setopt(h, CURLOPT_NOSIGNAL, 1L);
     if (isFTPFamily(protocol)) {
         if (config_.ftpPassiveMode) {
@@ -129,7 +156,11 @@ struct CurlTransferClient::Operation {
         : url(std::move(at)), options(std::move(set)) {}
     std::string url;
     Options options;
-    Finish finish;
+    bool endsOnStall = false;  // a download: no limit on the whole, only on silence
+    bool waitedForSession = false;  // refused for the sessions others held, and waited
+    // What the operation does once it has ended, before its caller is told; may throw.
+    std::function<void(Operation&, CURLcode)> finish;
+    Completion done;  // told the result once
     std::optional<EasyHandlePool::Lease> lease;
     std::string text;  // what a listing receives
     std::unique_ptr<FILE, int (*)(FILE*)> file{nullptr, std::fclose};
@@ -145,14 +176,26 @@ FTPError CurlTransferClient::failure(CURLcode code) const {
     return FTPError::curlExitCode(code, curl_easy_strerror(code));
 }
 
-void CurlTransferClient::countConnections(CURL* handle) {
+long CurlTransferClient::countConnections(CURL* handle) {
     long opened = 0;
     curl_easy_getinfo(handle, CURLINFO_NUM_CONNECTS, &opened);
     connectionsOpened_ += opened;
+    return opened;
 }
 
-void CurlTransferClient::launch(std::shared_ptr<Operation> op, Finish finish) {
-    op->finish = std::move(finish);
+void CurlTransferClient::tell(Operation& op, std::exception_ptr error) noexcept {
+    Completion done = std::move(op.done);
+    op.done = nullptr;
+    if (!done) return;
+    // A driver's thread has no one to hand an exception to: what the caller's own completion
+    // throws ends there.
+    try {
+        done(std::move(error));
+    } catch (...) {
+    }
+}
+
+void CurlTransferClient::launch(std::shared_ptr<Operation> op) {
     {
         std::lock_guard lock(turnsMutex_);
         if (sessionsInUse_ >= sessionLimit_) {
@@ -165,19 +208,30 @@ void CurlTransferClient::launch(std::shared_ptr<Operation> op, Finish finish) {
 }
 
 void CurlTransferClient::begin(std::shared_ptr<Operation> op) {
-    op->lease.emplace(pool_.acquire());
-    if (!*op->lease) {
-        end(op, CURLE_FAILED_INIT);
-        return;
+    // An operation that cannot start fails alone: its turn goes to the next, which may start.
+    for (; op; op = nextTurn()) {
+        try {
+            op->lease.emplace(pool_.acquire());
+            if (!*op->lease) throw FTPError::curlExitCode(-1, "Failed to initialize libcurl");
+            CurlSession& session = *op->lease->get();
+            configureHandle(session.easy(), op->url, op->endsOnStall);
+            if (op->options) op->options(*op, session.easy());
+            drivers_.start(session, [this, op](CURLcode code) { end(op, code); });
+            return;
+        } catch (...) {
+            // The session's state is unknown: it is not lent again.
+            if (op->lease) op->lease->discard();
+            op->lease.reset();
+            tell(*op, std::current_exception());
+        }
     }
-    CurlSession& session = *op->lease->get();
-    configureHandle(session.easy(), op->url);
-    if (op->options) op->options(*op, session.easy());
-    drivers_.start(session, [this, op](CURLcode code) { end(op, code); });
 }
 
 void CurlTransferClient::end(const std::shared_ptr<Operation>& op, CURLcode code) {
-    if (CURL* easy = op->lease->get()->easy()) countConnections(easy);
+    CURL* easy = op->lease->get()->easy();
+    const long opened = countConnections(easy);
+    long reply = 0;
+    curl_easy_getinfo(easy, CURLINFO_RESPONSE_CODE, &reply);
     if (code != CURLE_OK) {
         // One refused CWD or a cut connection can leave the session where every later
         // operation fails; a fresh login costs little beside that.
@@ -185,24 +239,77 @@ void CurlTransferClient::end(const std::shared_ptr<Operation>& op, CURLcode code
     }
     // Back in the pool before anyone learns of the end, so that the next operation finds it.
     op->lease->end();
-    op->finish(*op, code);
-    std::shared_ptr<Operation> next;
-    {
-        std::lock_guard lock(turnsMutex_);
-        if (waiting_.empty()) {
-            --sessionsInUse_;
-            return;
-        }
-        next = std::move(waiting_.front());
-        waiting_.pop_front();
+    if (waitForSession(op, code, opened, reply)) return;
+    if (code == CURLE_OK && op->waitedForSession) announceSessionLimit();
+    std::exception_ptr error;
+    try {
+        if (op->finish) op->finish(*op, code);
+        if (code != CURLE_OK) throw failure(code);
+    } catch (...) {
+        error = std::current_exception();
     }
-    begin(std::move(next));
+    tell(*op, std::move(error));
+    begin(nextTurn());
 }
 
-CURLcode CurlTransferClient::run(const std::shared_ptr<Operation>& op) {
-    return waitForResult([&](SessionDriver::Done done) {
-        launch(op, [done = std::move(done)](Operation&, CURLcode code) { done(code); });
-    });
+std::shared_ptr<CurlTransferClient::Operation> CurlTransferClient::nextTurn() {
+    std::lock_guard lock(turnsMutex_);
+    if (!waiting_.empty() && sessionsInUse_ <= sessionLimit_) {
+        auto next = std::move(waiting_.front());
+        waiting_.pop_front();
+        return next;
+    }
+    --sessionsInUse_;
+    return nullptr;
+}
+
+bool CurlTransferClient::waitForSession(std::shared_ptr<Operation> op, CURLcode code,
+                                        long opened, long reply) {
+    // Only a new login can be refused for the sessions others hold.
+    if (code == CURLE_OK || opened == 0 || !refusesLogin(reply) ||
+        !isFTPFamily(config_.transferProtocol)) {
+        return false;
+    }
+    {
+        std::lock_guard lock(turnsMutex_);
+        // The sessions this connection has open besides this one: those at work, and those
+        // kept idle, which the next operation rides on without a login.
+        const int open = sessionsInUse_ - 1 + static_cast<int>(pool_.idleCount());
+        // Alone, the refusal is this login's own: a wrong password, or a server full of others.
+        if (open < 1) return false;
+        // Each refusal takes a session off the limit, and leaves no more than are open: of a
+        // burst of logins, those the server took remain. Others at work may be refused too.
+        sessionLimit_ = std::max(1, std::min(sessionLimit_ - 1, open));
+        sessionLimitUntold_ = true;
+        op->waitedForSession = true;
+        waiting_.push_front(std::move(op));
+    }
+    begin(nextTurn());
+    return true;
+}
+
+void CurlTransferClient::announceSessionLimit() {
+    int accepted = 0;
+    {
+        std::lock_guard lock(turnsMutex_);
+        if (!std::exchange(sessionLimitUntold_, false)) return;
+        accepted = sessionLimit_;
+    }
+    if (!sessionLimitListener_) return;
+    try {
+        sessionLimitListener_(accepted);
+    } catch (...) {
+        // Only a log line is lost.
+    }
+}
+
+void CurlTransferClient::run(const std::shared_ptr<Operation>& op) {
+    // Shared: the driver may still be inside set_value when the waiter has returned.
+    auto outcome = std::make_shared<std::promise<std::exception_ptr>>();
+    auto result = outcome->get_future();
+    op->done = [outcome](std::exception_ptr error) { outcome->set_value(std::move(error)); };
+    launch(op);
+    if (auto error = result.get()) std::rethrow_exception(error);
 }
 
 std::string CurlTransferClient::readText(const std::string& url, bool namesOnly, bool headersOnly) {
@@ -217,14 +324,12 @@ std::string CurlTransferClient::readText(const std::string& url, bool namesOnly,
         curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, appendToData);
         curl_easy_setopt(h, CURLOPT_WRITEDATA, &o.text);
     });
-    if (const CURLcode code = run(op); code != CURLE_OK) {
-        throw failure(code);
-    }
+    run(op);
     return isValidUtf8(op->text) ? std::move(op->text) : std::string{};
 }
 
 std::string CurlTransferClient::fetchHeaders(const std::string& name) {
-    return readText(config_.baseRemoteURL() + percentEncodedPath(name), false, true);
+    return readText(remoteFileURL(config_, config_.remotePath, name), false, true);
 }
 
 std::string CurlTransferClient::listDirectory(const std::string& url) {
@@ -260,33 +365,30 @@ void CurlTransferClient::startDownload(const std::string& url, const std::filesy
         }
     });
     // A fresh download truncates any older file here, before the server is contacted.
-    op->file.reset(std::fopen(to.c_str(), resumeFrom > 0 ? "ab" : "wb"));
+    op->file.reset(std::fopen(to.c_str(), resumeFrom > 0 ? "abe" : "wbe"));
     if (!op->file) {
         throw FTPError::localFolderNotWritable(to.string());
     }
     if (onProgress) {
         // The caller sees whole-file figures: the offset is added to both, unless the total is
         // still unknown (0).
-        op->progress.emplace(ProgressContext{
-            [onProgress = std::move(onProgress), resumeFrom](std::int64_t downloaded,
-                                                             std::int64_t total) {
-                onProgress(downloaded + resumeFrom, total > 0 ? total + resumeFrom : total);
-            }});
+        op->progress.emplace().callback = [onProgress = std::move(onProgress), resumeFrom](
+                                              std::int64_t downloaded, std::int64_t total) {
+            onProgress(downloaded + resumeFrom, total > 0 ? total + resumeFrom : total);
+        };
     }
-    launch(std::move(op), [this, to, resumeFrom, done = std::move(done)](Operation& o,
-                                                                           CURLcode code) {
+    op->endsOnStall = true;
+    op->finish = [to, resumeFrom](Operation& o, CURLcode code) {
         o.file.reset();  // closed, so that whoever is told finds every byte in it
-        if (code == CURLE_OK) {
-            done(nullptr);
-            return;
-        }
-        // Only a first attempt leaves nothing behind; a resumed one keeps what it gained.
-        if (resumeFrom == 0) {
-            std::error_code ignored;
-            std::filesystem::remove(to, ignored);
-        }
-        done(std::make_exception_ptr(failure(code)));
-    });
+        if (o.progress && o.progress->error) std::rethrow_exception(o.progress->error);
+        // A failed attempt keeps what it received: the next one resumes from there instead of
+        // starting a large file over. A first attempt that received nothing leaves nothing.
+        std::error_code ec;
+        if (code != CURLE_OK && resumeFrom <= 0 && std::filesystem::file_size(to, ec) == 0 && !ec)
+            std::filesystem::remove(to, ec);
+    };
+    op->done = std::move(done);
+    launch(std::move(op));
 }
 
 void CurlTransferClient::startRemoveItem(const std::string& folder, const std::string& item,
@@ -296,7 +398,7 @@ void CurlTransferClient::startRemoveItem(const std::string& folder, const std::s
     std::string command;
     std::string url;
     if (ftp) {
-        url = config_.remoteURL(percentEncodedPath(folder));
+        url = remoteFolderURL(config_, folder);
         // A leading "*" would tell libcurl to ignore the command's failure.
         command = std::string(ftpVerb) + " " + (item.starts_with('*') ? "./" + item : item);
     } else {
@@ -314,9 +416,8 @@ void CurlTransferClient::startRemoveItem(const std::string& folder, const std::s
         curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, discardBytes);
     });
     op->commands.reset(curl_slist_append(nullptr, command.c_str()));
-    launch(std::move(op), [this, done = std::move(done)](Operation&, CURLcode code) {
-        done(code == CURLE_OK ? nullptr : std::make_exception_ptr(failure(code)));
-    });
+    op->done = std::move(done);
+    launch(std::move(op));
 }
 
 namespace {
@@ -367,25 +468,6 @@ void CurlTransferClient::probeConnection() {
     if (code != CURLE_OK && code != CURLE_LOGIN_DENIED) {
         throw failure(code);
     }
-}
-
-std::string percentEncodedPath(std::string_view name) {
-    static constexpr std::string_view allowedMarks = "!$&'()*+,-./:;=@_~";
-    static constexpr char hex[] = "0123456789ABCDEF";
-    std::string encoded;
-    for (const char c : name) {
-        const auto b = static_cast<unsigned char>(c);
-        if (std::isalnum(b) != 0 && b < 0x80) {
-            encoded += c;
-        } else if (allowedMarks.find(c) != std::string_view::npos) {
-            encoded += c;
-        } else {
-            encoded += '%';
-            encoded += hex[b >> 4];
-            encoded += hex[b & 0xF];
-        }
-    }
-    return encoded.empty() ? std::string(name) : encoded;
 }
 
 bool resolveHost(const std::string& host) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <filesystem>
@@ -8,12 +9,12 @@
 #include <memory>
 #include <mutex>
 #include <string>
-#include <string_view>
 
 #include "connections/connection_config.h"
 #include "platform/completion.h"
 #include "transfer/easy_handle_pool.h"
 #include "transfer/ftp_error.h"
+#include "transfer/remote_url.h"
 #include "transfer/session_driver.h"
 #include "transfer/ssh_known_hosts.h"
 
@@ -22,6 +23,14 @@ namespace tarnel {
 // (downloaded, total) in whole-file bytes; a total of 0 means unknown.
 using ProgressCallback = std::function<void(std::int64_t downloaded, std::int64_t total)>;
 
+// How long operations may take. A download ends only when no byte has come for `stall`, so that
+// a large file under a bandwidth cap still arrives; every other operation ends at `operation`.
+struct TransferTimeouts {
+    std::chrono::seconds connect{10};
+    std::chrono::seconds operation{300};
+    std::chrono::seconds stall{60};
+};
+
 // The one place that talks libcurl. Turns a connection record into libcurl options and offers
 // operations that fail with FTPError: listings block, never to be called on the main thread;
 // downloads and removals report to a Completion. Callable from several threads at
@@ -29,12 +38,18 @@ using ProgressCallback = std::function<void(std::int64_t downloaded, std::int64_
 // reuse the session a handle keeps open; they run on the client's driver threads.
 // No more than `maxConcurrentDownloads` sessions are open at once: further operations wait
 // their turn, and a session that ends one operation goes straight on to the next, without
-// waiting for whoever asked for it.
+// waiting for whoever asked for it. A server that refuses a login for too many sessions
+// lowers that number to the sessions it accepted. Whatever fails on a driver's thread becomes
+// that operation's error; no exception leaves one.
 class CurlTransferClient {
 public:
+    // Told the number of sessions the server accepts, when refused logins have lowered it.
+    using SessionLimitListener = std::function<void(int accepted)>;
+
     // SFTP host keys are trusted on first use and recorded in `knownHostsFile`; a key that
     // differs from the recorded one refuses the connection.
-    CurlTransferClient(ConnectionConfig config, std::filesystem::path knownHostsFile);
+    CurlTransferClient(ConnectionConfig config, std::filesystem::path knownHostsFile,
+                       TransferTimeouts timeouts = {});
 
     CurlTransferClient(const CurlTransferClient&) = delete;
     CurlTransferClient& operator=(const CurlTransferClient&) = delete;
@@ -46,7 +61,8 @@ public:
     // Bare names of the folder at `url`; "" if it is not UTF-8.
     std::string listNames(const std::string& url);
     // Fetches `url` into `to`, appending from `resumeFrom` when that is above 0. A failed
-    // first attempt (offset 0) removes the local file; a failed resume keeps what it added.
+    // attempt keeps the bytes it received, so that the next one resumes; a first attempt that
+    // received none leaves no file.
     // `done` runs on the driver's thread once the file is closed; `onProgress` there too.
     void startDownload(const std::string& url, const std::filesystem::path& to,
                        std::int64_t resumeFrom, ProgressCallback onProgress, Completion done);
@@ -63,6 +79,9 @@ public:
     // new handle, so it proves the server is there now.
     void probeConnection();
 
+    // Set before the first operation.
+    void onSessionLimit(SessionLimitListener listener) { sessionLimitListener_ = std::move(listener); }
+
     // Drops the sessions kept open, so the next operation logs in afresh.
     void closeIdleConnections() { pool_.closeAll(); }
     // Connections libcurl has opened so far: a reused session opens none, though each FTP
@@ -78,46 +97,57 @@ public:
 private:
     struct Operation;
     using Options = std::function<void(Operation&, CURL*)>;
-    using Finish = std::function<void(Operation&, CURLcode)>;
 
-    void configureHandle(CURL* handle, const std::string& url);
-    // Runs an operation on `url` with the connection's options and then `options`, on a
-    // session of its own as soon as one is free; `finish` gets it back with its result, on a
-    // driver's thread.
-    void launch(std::shared_ptr<Operation> op, Finish finish);
-    // launch(), then waits for the result.
-    CURLcode run(const std::shared_ptr<Operation>& op);
-    // Starts `op` on a session; the caller holds one of the `sessionLimit_` turns for it.
+    void configureHandle(CURL* handle, const std::string& url, bool endsOnStall);
+    // Runs `op` on `url` with the connection's options and then its own, on a session of its
+    // own as soon as one is free; its `done` is told the result, on a driver's thread.
+    void launch(std::shared_ptr<Operation> op);
+    // launch(), then waits for the result and throws its failure.
+    void run(const std::shared_ptr<Operation>& op);
+    // Starts `op` on a session; the caller holds one of the `sessionLimit_` turns for it. An
+    // operation that cannot start is told why, and its turn goes on.
     void begin(std::shared_ptr<Operation> op);
     // After an operation: counts its connections and gives its session back, unless the
     // operation failed: such a session is not used again. Then tells the caller, and passes
     // the turn on to the operation that has waited longest.
     void end(const std::shared_ptr<Operation>& op, CURLcode code);
+    // Gives up the caller's turn: the operation that has waited longest gets it, if the session
+    // limit still has room for it.
+    std::shared_ptr<Operation> nextTurn();
+    // A login refused while other sessions of this connection are open: the server limits
+    // sessions. `op` waits for a running one to end, and the limit becomes what the server
+    // took. False for a refusal of this login alone.
+    bool waitForSession(std::shared_ptr<Operation> op, CURLcode code, long opened, long reply);
+    // Tells the listener the session limit, once an operation that waited for a session has
+    // worked under it: each refusal of a burst of logins lowers it, the last to what holds.
+    void announceSessionLimit();
+    // Adds the connections `handle` opened to the count, and returns them.
+    long countConnections(CURL* handle);
+    // Tells the caller of `op` its result, once; nothing leaves here.
+    static void tell(Operation& op, std::exception_ptr error) noexcept;
     std::string readText(const std::string& url, bool namesOnly, bool headersOnly);
-    // Removes `item` of `folder` (a path below the server root as the URLs spell it) with the
-    // FTP command `ftpVerb` or the SFTP command `sftpVerb`.
+    // Removes `item` of `folder` (a path from the server root) with the FTP command `ftpVerb`
+    // or the SFTP command `sftpVerb`.
     void startRemoveItem(const std::string& folder, const std::string& item, const char* ftpVerb,
                          const char* sftpVerb, Completion done);
-    void countConnections(CURL* handle);
     // The FTPError users read for `code`.
     FTPError failure(CURLcode code) const;
 
     ConnectionConfig config_;
     std::filesystem::path knownHostsFile_;
+    TransferTimeouts timeouts_;
     KnownHostsPolicy hostKeyPolicy_;
     EasyHandlePool pool_;
     std::atomic<std::int64_t> connectionsOpened_{0};
-    const int sessionLimit_;
+    SessionLimitListener sessionLimitListener_;
     std::mutex turnsMutex_;
+    int sessionLimit_;                              // turns there are
+    bool sessionLimitUntold_ = false;               // lowered since the listener last heard
     int sessionsInUse_ = 0;                         // turns held
     std::deque<std::shared_ptr<Operation>> waiting_;  // for a turn, oldest first
     // After the pool: operations they end on going give their sessions back to a pool still there.
     SessionDrivers drivers_;
 };
-
-// `name` with every byte outside the URL path characters as %XX; "/" stays, so subfolders may
-// be named. The raw name if that gives nothing.
-std::string percentEncodedPath(std::string_view name);
 
 // Whether the system resolver knows `host`.
 bool resolveHost(const std::string& host);

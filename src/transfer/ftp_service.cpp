@@ -1,5 +1,7 @@
 #include "transfer/ftp_service.h"
 
+#include <system_error>
+
 #include "platform/localized.h"
 #include "transfer/ftp_error.h"
 #include "transfer/listing_parser.h"
@@ -20,18 +22,34 @@ bool leadsTo(const std::string& relativePath, const std::vector<std::string>& al
     return false;
 }
 
+// A download libcurl calls good fails if no file is where it wrote; so does one whose file the
+// file system cannot vouch for (EIO, ESTALE, EACCES on a network mount), in its words.
+std::exception_ptr missingAfterDownload(const std::string& name, const std::filesystem::path& to) {
+    std::error_code ec;
+    if (std::filesystem::exists(to, ec)) return nullptr;
+    return std::make_exception_ptr(FTPError::downloadFailed(
+        ec ? "Cannot check the downloaded file '" + to.string() + "': " + ec.message()
+           : "File not found after download: " + name));
+}
+
 }  // namespace
 
 FTPService::FTPService(ConnectionConfig config, LogService& logService,
                        std::unique_ptr<CurlTransferClient> client)
-    : config_(std::move(config)), logService_(logService), client_(std::move(client)) {}
+    : config_(std::move(config)), logService_(logService), client_(std::move(client)) {
+    client_->onSessionLimit([this](int accepted) {
+        log("The server accepts " + std::to_string(accepted) +
+                " session(s) at once; transfers wait for a free one",
+            LogLevel::info);
+    });
+}
 
 void FTPService::log(const std::string& text, LogLevel level) {
     logService_.log("[" + config_.name + "] " + text, level);
 }
 
 std::vector<FTPFileEntry> FTPService::listFiles() {
-    const std::string url = config_.baseRemoteURL();
+    const std::string url = remoteFolderURL(config_, config_.remotePath);
     auto entries = parseListing(client_->listDirectory(url), false);
     if (!entries.empty()) {
         inFallbackRun_ = false;
@@ -69,7 +87,7 @@ std::vector<FTPFileEntry> FTPService::entriesFromNames(const std::vector<std::st
 }
 
 std::vector<FTPFileEntry> FTPService::listFiles(const std::string& atPath) {
-    const std::string url = config_.remoteURL(percentEncodedPath(atPath));
+    const std::string url = remoteFolderURL(config_, atPath);
     auto entries = parseListing(client_->listDirectory(url), true);
     if (!entries.empty()) {
         return entries;
@@ -103,13 +121,10 @@ void FTPService::startDownloadFile(const std::string& name, const std::filesyste
                                    std::int64_t resumeFrom, ProgressCallback onProgress,
                                    const std::optional<std::string>& remoteURL, Completion done) {
     const std::string source =
-        remoteURL ? *remoteURL : config_.baseRemoteURL() + percentEncodedPath(name);
+        remoteURL ? *remoteURL : remoteFileURL(config_, config_.remotePath, name);
     client_->startDownload(source, to, resumeFrom, std::move(onProgress),
                            [name, to, done = std::move(done)](std::exception_ptr error) {
-                               if (!error && !std::filesystem::exists(to)) {
-                                   error = std::make_exception_ptr(FTPError::downloadFailed(
-                                       "File not found after download: " + name));
-                               }
+                               if (!error) error = missingAfterDownload(name, to);
                                done(std::move(error));
                            });
 }

@@ -35,7 +35,7 @@ void record(const KnownHostsPolicy& policy, const std::string& line) {
     std::lock_guard lock(appendMutex);
     std::error_code ec;
     std::filesystem::create_directories(policy.file.parent_path(), ec);
-    if (FILE* f = std::fopen(policy.file.c_str(), "a")) {
+    if (FILE* f = std::fopen(policy.file.c_str(), "ae")) {
         std::fputs((line + "\n").c_str(), f);
         std::fclose(f);
     }

@@ -133,8 +133,9 @@ fs::path NativeServer::makeFolder(const std::string& name) const {
     return folder;
 }
 
-NativeServer::NativeServer(NativeServerKind kind)
+NativeServer::NativeServer(NativeServerKind kind, int sessionsPerAddress)
     : kind_(kind),
+      sessionsPerAddress_(sessionsPerAddress),
       stateDir_(fs::temp_directory_path() / ("tarnel-native-" + Uuid::random().toString())) {
     if (const auto why = unavailable(kind)) throw std::runtime_error(*why);
     fs::create_directories(stateDir_ / "empty");
@@ -149,8 +150,10 @@ NativeServer::NativeServer(NativeServerKind kind)
         args.insert(args.end(), {"-n", "-c", conf});
     } else if (kind == NativeServerKind::pureFtpd) {
         // Unix accounts, no anonymous login, no chroot (that takes -A), in the foreground.
+        const std::string perAddress =
+            std::to_string(sessionsPerAddress > 0 ? sessionsPerAddress : 50);
         args.insert(args.end(), {"-S", "127.0.0.1," + std::to_string(port_), "-l", "unix", "-E",
-                                 "-H", "-c", "50", "-C", "50"});
+                                 "-H", "-c", "50", "-C", perAddress});
     } else {
         args.insert(args.end(), {"-D", "-e", "-f", conf});
     }
@@ -203,8 +206,8 @@ void NativeServer::writeConfig() {
              << "\nbackground=NO\nseccomp_sandbox=NO\nisolate=NO\nisolate_network=NO\n"
                 "anonymous_enable=NO\nlocal_enable=YES\nwrite_enable=YES\nchroot_local_user=NO\n"
                 "local_umask=022\nutf8_filesystem=YES\npam_service_name=tarnel-native\n"
-                "max_clients=0\nmax_per_ip=0\n"
-                "secure_chroot_dir="
+                "max_clients=0\nmax_per_ip="
+             << sessionsPerAddress_ << "\nsecure_chroot_dir="
              << state << "/empty\nlog_ftp_protocol=YES\nxferlog_enable=YES\nxferlog_std_format=NO\n"
              << "vsftpd_log_file=" << state << "/protocol.log\n";
         return;
@@ -229,7 +232,9 @@ void NativeServer::writeProftpdConfig(std::ofstream& conf) {
             "User nobody\nGroup nogroup\nScoreboardFile "
          << state << "/scoreboard\nPidFile " << state
          << "/proftpd.pid\nDelayTable none\nWtmpLog off\nUseReverseDNS off\n"
-            "AuthPAM off\nAuthOrder mod_auth_unix.c\nAllowOverwrite on\nMaxInstances 100\n"
+            "AuthPAM off\nAuthOrder mod_auth_unix.c\nAllowOverwrite on\nMaxInstances 100\n";
+    if (sessionsPerAddress_ > 0) conf << "MaxClientsPerHost " << sessionsPerAddress_ << "\n";
+    conf << 
             "ModulePath "
          << (unpacked / "proftpd/usr/lib/proftpd").string() << "\nSystemLog " << state
          << "/system.log\nExtendedLog " << state << "/protocol.log ALL default\n";

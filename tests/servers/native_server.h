@@ -28,8 +28,9 @@ public:
     static std::optional<std::string> unavailable(NativeServerKind kind);
 
     // Starts the server and waits until it accepts connections; throws std::runtime_error with
-    // its output if it does not.
-    explicit NativeServer(NativeServerKind kind);
+    // its output if it does not. `sessionsPerAddress` above 0 refuses the logins of a client
+    // address beyond that many at once (vsftpd, pure-ftpd, proftpd), as many hosted servers do.
+    explicit NativeServer(NativeServerKind kind, int sessionsPerAddress = 0);
     ~NativeServer();
 
     NativeServer(const NativeServer&) = delete;
@@ -54,6 +55,7 @@ private:
     void writeProftpdConfig(std::ofstream& conf);
 
     NativeServerKind kind_;
+    int sessionsPerAddress_;
     std::filesystem::path stateDir_;
     int port_ = 0;
     pid_t pid_ = -1;

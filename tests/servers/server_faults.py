@@ -54,19 +54,25 @@ class Faults:
             return data
 
 
+# How long a stalled download waits before it goes on: longer than any client waits.
+STALL_SECONDS = 3600
+
+
 class DownloadLimits:
-    """The cut and throttle in force for one download, fixed when it starts."""
+    """The cut, stall and throttle in force for one download, fixed when it starts."""
 
     def __init__(self, faults):
         current = faults.current()
         self.cut_after = current.get("cut_after_bytes")
+        self.stall_after = current.get("stall_after_bytes")
         self.rate = current.get("slow_bytes_per_second") or 0
         self.sent = 0
 
     def allowed(self, wanted):
-        """How many of `wanted` bytes may go out now; 0 once the cut is reached."""
-        if self.cut_after is not None:
-            wanted = min(wanted, max(0, self.cut_after - self.sent))
+        """How many of `wanted` bytes may go out now; 0 once the cut or stall is reached."""
+        for end in (self.cut_after, self.stall_after):
+            if end is not None:
+                wanted = min(wanted, max(0, end - self.sent))
         if self.rate:
             # Small slices keep a throttled stream smooth rather than bursty.
             wanted = min(wanted, max(1, self.rate // 10))
@@ -78,6 +84,9 @@ class DownloadLimits:
     def pause_after(self, count):
         """Seconds to wait after sending `count` bytes."""
         self.sent += count
+        if self.stall_after is not None and self.sent >= self.stall_after:
+            # Silent with the connection open, as a hung server or a dead route is.
+            return STALL_SECONDS
         return count / self.rate if self.rate else 0
 
 

@@ -266,6 +266,10 @@ void TestServer::cutTransfersAfter(std::optional<std::int64_t> bytes) {
     updateFaults(stateDir, [&](nlohmann::json& f) { setOrErase(f, "cut_after_bytes", bytes); });
 }
 
+void TestServer::stallTransfersAfter(std::optional<std::int64_t> bytes) {
+    updateFaults(stateDir, [&](nlohmann::json& f) { setOrErase(f, "stall_after_bytes", bytes); });
+}
+
 void TestServer::refuseDeletes(bool on) {
     updateFaults(stateDir, [&](nlohmann::json& f) { f["refuse_delete"] = on; });
 }

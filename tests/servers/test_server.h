@@ -63,6 +63,8 @@ public:
 
     // Faults, in effect from the next operation on.
     void cutTransfersAfter(std::optional<std::int64_t> bytes);
+    // Downloads send `bytes` and then nothing, with the connection left open.
+    void stallTransfersAfter(std::optional<std::int64_t> bytes);
     void refuseDeletes(bool on);
     // FTP: a delete removes the file at once and answers `seconds` later.
     void delayDeleteReplies(std::optional<std::int64_t> seconds);

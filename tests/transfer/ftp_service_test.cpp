@@ -7,6 +7,7 @@
 #include "platform/testing/virtual_loop.h"
 #include "platform/testing/wait_for.h"
 #include "transfer/ftp_error.h"
+#include "transfer/remote_url.h"
 #include "transfer_fixture.h"
 
 namespace tarnel {
@@ -89,10 +90,11 @@ TEST_P(ServiceTest, anEmptyFolderFallsBackToANameListAndWarnsOncePerRun) {
     EXPECT_EQ(logged(), (std::vector<std::string>{warning, warning}));
 }
 
+// The folder's name holds what a URL would read as a fragment: it is addressed as itself.
 TEST_P(ServiceTest, downloadsByNameOrByTheGivenURL) {
-    write(root / "in" / "a b.txt", "hello");
+    write(root / "in #1" / "a b.txt", "hello");
     auto config = server->connectionConfig();
-    config.remotePath = "/in";
+    config.remotePath = "/in #1";
     auto service = makeService(config);
     const fs::path local = dir / "local" / "a.partial";
     const auto download = [&](const std::string& name, std::optional<std::string> url) {
@@ -102,11 +104,11 @@ TEST_P(ServiceTest, downloadsByNameOrByTheGivenURL) {
     EXPECT_EQ(read(local), "hello");
     // With a URL the name only names the file in messages.
     fs::remove(local);
-    download("ignored", config.baseRemoteURL() + "a%20b.txt");
+    download("ignored", remoteFolderURL(config, "/in #1") + "a%20b.txt");
     EXPECT_EQ(read(local), "hello");
     waitFor([&](Completion done) { service.startDeleteFile("a b.txt", done); });
-    waitFor([&](Completion done) { service.startDeleteDirectory("/in", done); });
-    EXPECT_FALSE(fs::exists(root / "in"));
+    waitFor([&](Completion done) { service.startDeleteDirectory("/in #1", done); });
+    EXPECT_FALSE(fs::exists(root / "in #1"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Servers, ServiceTest,
