@@ -280,8 +280,8 @@
             <translation>Keine Verbindung zu Port %lld möglich</translation>
         </message>
         <message>
-            <source>Cannot write to '%@'. Check folder permissions in Finder &gt; Get Info.</source>
-            <translation>In „%@“ kann nicht geschrieben werden. Prüfen Sie die Zugriffsrechte des Ordners.</translation>
+            <source>Cannot write to '%@'. Check the folder's permissions in the file manager.</source>
+            <translation>In „%@“ kann nicht geschrieben werden. Prüfen Sie die Zugriffsrechte des Ordners im Dateimanager.</translation>
         </message>
         <message>
             <source>Cellular</source>
@@ -524,10 +524,6 @@
             <translation>Finanzen</translation>
         </message>
         <message>
-            <source>Finder Tags</source>
-            <translation>Finder-Tags</translation>
-        </message>
-        <message>
             <source>Folder error</source>
             <translation>Ordnerfehler</translation>
         </message>
@@ -572,7 +568,7 @@
             <translation>Wenn keine Regel zutrifft</translation>
         </message>
         <message>
-            <source>If the Mac sleeps anyway (battery, lid close), transfers will pause and resume automatically on wake.</source>
+            <source>If the computer sleeps anyway (battery, lid close), transfers will pause and resume automatically on wake.</source>
             <translation>Geht der Computer trotzdem in den Ruhezustand (Akku, Deckel zu), werden Übertragungen angehalten und beim Aufwachen automatisch fortgesetzt.</translation>
         </message>
         <message>
@@ -596,7 +592,7 @@
             <translation>Letzte Aktivität: </translation>
         </message>
         <message>
-            <source>Launch Tarnel when Mac starts</source>
+            <source>Launch Tarnel when you log in</source>
             <translation>Tarnel beim Anmelden starten</translation>
         </message>
         <message>
@@ -1150,6 +1146,10 @@
         <message>
             <source>TCP connection</source>
             <translation>TCP-Verbindung</translation>
+        </message>
+        <message>
+            <source>Tags</source>
+            <translation>Tags</translation>
         </message>
         <message>
             <source>Tarnel %1 (build %2)</source>

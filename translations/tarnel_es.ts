@@ -280,8 +280,8 @@
             <translation>No se puede conectar al puerto %lld</translation>
         </message>
         <message>
-            <source>Cannot write to '%@'. Check folder permissions in Finder &gt; Get Info.</source>
-            <translation>No se puede escribir en «%@». Compruebe los permisos de la carpeta.</translation>
+            <source>Cannot write to '%@'. Check the folder's permissions in the file manager.</source>
+            <translation>No se puede escribir en «%@». Compruebe los permisos de la carpeta en el gestor de archivos.</translation>
         </message>
         <message>
             <source>Cellular</source>
@@ -524,10 +524,6 @@
             <translation>Finanzas</translation>
         </message>
         <message>
-            <source>Finder Tags</source>
-            <translation>Etiquetas del Finder</translation>
-        </message>
-        <message>
             <source>Folder error</source>
             <translation>Error de carpeta</translation>
         </message>
@@ -572,7 +568,7 @@
             <translation>Si ninguna regla coincide</translation>
         </message>
         <message>
-            <source>If the Mac sleeps anyway (battery, lid close), transfers will pause and resume automatically on wake.</source>
+            <source>If the computer sleeps anyway (battery, lid close), transfers will pause and resume automatically on wake.</source>
             <translation>Si el equipo entra en reposo de todos modos (batería, tapa cerrada), las transferencias se pausan y se reanudan solas al despertar.</translation>
         </message>
         <message>
@@ -596,7 +592,7 @@
             <translation>Última actividad: </translation>
         </message>
         <message>
-            <source>Launch Tarnel when Mac starts</source>
+            <source>Launch Tarnel when you log in</source>
             <translation>Abrir Tarnel al iniciar sesión</translation>
         </message>
         <message>
@@ -1150,6 +1146,10 @@
         <message>
             <source>TCP connection</source>
             <translation>Conexión TCP</translation>
+        </message>
+        <message>
+            <source>Tags</source>
+            <translation>Etiquetas</translation>
         </message>
         <message>
             <source>Tarnel %1 (build %2)</source>

@@ -280,8 +280,8 @@
             <translation>Impossible de se connecter au port %lld</translation>
         </message>
         <message>
-            <source>Cannot write to '%@'. Check folder permissions in Finder &gt; Get Info.</source>
-            <translation>Impossible d'écrire dans « %@ ». Vérifiez les autorisations du dossier.</translation>
+            <source>Cannot write to '%@'. Check the folder's permissions in the file manager.</source>
+            <translation>Impossible d'écrire dans « %@ ». Vérifiez les autorisations du dossier dans le gestionnaire de fichiers.</translation>
         </message>
         <message>
             <source>Cellular</source>
@@ -524,10 +524,6 @@
             <translation>Finance</translation>
         </message>
         <message>
-            <source>Finder Tags</source>
-            <translation>Tags du Finder</translation>
-        </message>
-        <message>
             <source>Folder error</source>
             <translation>Erreur de dossier</translation>
         </message>
@@ -572,7 +568,7 @@
             <translation>Si aucune règle ne correspond</translation>
         </message>
         <message>
-            <source>If the Mac sleeps anyway (battery, lid close), transfers will pause and resume automatically on wake.</source>
+            <source>If the computer sleeps anyway (battery, lid close), transfers will pause and resume automatically on wake.</source>
             <translation>Si l'ordinateur se met quand même en veille (batterie, écran rabattu), les transferts sont suspendus puis reprennent automatiquement au réveil.</translation>
         </message>
         <message>
@@ -596,7 +592,7 @@
             <translation>Dernière activité : </translation>
         </message>
         <message>
-            <source>Launch Tarnel when Mac starts</source>
+            <source>Launch Tarnel when you log in</source>
             <translation>Lancer Tarnel à l'ouverture de session</translation>
         </message>
         <message>
@@ -1150,6 +1146,10 @@
         <message>
             <source>TCP connection</source>
             <translation>Connexion TCP</translation>
+        </message>
+        <message>
+            <source>Tags</source>
+            <translation>Étiquettes</translation>
         </message>
         <message>
             <source>Tarnel %1 (build %2)</source>
