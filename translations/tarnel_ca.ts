@@ -965,7 +965,7 @@
         </message>
         <message>
             <source>Retry Failed</source>
-            <translation>Reintents fallits</translation>
+            <translation>Abandonat</translation>
         </message>
         <message>
             <source>Retrying (%lld/%lld)...</source>
@@ -1265,7 +1265,7 @@
         </message>
         <message>
             <source>Waiting...</source>
-            <translation>S'està esperant...</translation>
+            <translation>En espera...</translation>
         </message>
         <message>
             <source>Warn and pause if disk space is low</source>

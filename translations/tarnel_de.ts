@@ -901,7 +901,7 @@
         </message>
         <message>
             <source>Preview</source>
-            <translation>Anhören</translation>
+            <translation>Vorschau</translation>
         </message>
         <message>
             <source>Preview:</source>
@@ -965,7 +965,7 @@
         </message>
         <message>
             <source>Retry Failed</source>
-            <translation>Wiederholung fehlgeschlagen</translation>
+            <translation>Aufgegeben</translation>
         </message>
         <message>
             <source>Retrying (%lld/%lld)...</source>

@@ -901,7 +901,7 @@
         </message>
         <message>
             <source>Preview</source>
-            <translation>Escuchar</translation>
+            <translation>Vista previa</translation>
         </message>
         <message>
             <source>Preview:</source>
@@ -965,7 +965,7 @@
         </message>
         <message>
             <source>Retry Failed</source>
-            <translation>Reintento fallido</translation>
+            <translation>Agotado</translation>
         </message>
         <message>
             <source>Retrying (%lld/%lld)...</source>

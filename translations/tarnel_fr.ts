@@ -901,7 +901,7 @@
         </message>
         <message>
             <source>Preview</source>
-            <translation>Écouter</translation>
+            <translation>Aperçu</translation>
         </message>
         <message>
             <source>Preview:</source>
@@ -965,7 +965,7 @@
         </message>
         <message>
             <source>Retry Failed</source>
-            <translation>Nouvelle tentative échouée</translation>
+            <translation>Abandonné</translation>
         </message>
         <message>
             <source>Retrying (%lld/%lld)...</source>

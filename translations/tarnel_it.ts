@@ -965,7 +965,7 @@
         </message>
         <message>
             <source>Retry Failed</source>
-            <translation>Tentativi falliti</translation>
+            <translation>Abbandonato</translation>
         </message>
         <message>
             <source>Retrying (%lld/%lld)...</source>

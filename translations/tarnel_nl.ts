@@ -965,7 +965,7 @@
         </message>
         <message>
             <source>Retry Failed</source>
-            <translation>Pogingen mislukt</translation>
+            <translation>Opgegeven</translation>
         </message>
         <message>
             <source>Retrying (%lld/%lld)...</source>
@@ -1061,7 +1061,7 @@
         </message>
         <message>
             <source>Simultaneous downloads: </source>
-            <translation>Gelijktijdige downloads: </translation>
+            <translation>Downloads tegelijk: </translation>
         </message>
         <message>
             <source>Size</source>
@@ -1125,7 +1125,7 @@
         </message>
         <message>
             <source>Sync every </source>
-            <translation>Synchroniseren elke </translation>
+            <translation>Elke </translation>
         </message>
         <message>
             <source>Sync only during scheduled hours</source>

@@ -965,7 +965,7 @@
         </message>
         <message>
             <source>Retry Failed</source>
-            <translation>Ponowienia nieudane</translation>
+            <translation>Porzucono</translation>
         </message>
         <message>
             <source>Retrying (%lld/%lld)...</source>

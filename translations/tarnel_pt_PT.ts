@@ -965,7 +965,7 @@
         </message>
         <message>
             <source>Retry Failed</source>
-            <translation>Repetições falhadas</translation>
+            <translation>Esgotado</translation>
         </message>
         <message>
             <source>Retrying (%lld/%lld)...</source>
@@ -1061,7 +1061,7 @@
         </message>
         <message>
             <source>Simultaneous downloads: </source>
-            <translation>Transferências simultâneas: </translation>
+            <translation>Transf. simultâneas: </translation>
         </message>
         <message>
             <source>Size</source>
@@ -1125,7 +1125,7 @@
         </message>
         <message>
             <source>Sync every </source>
-            <translation>Sincronizar a cada </translation>
+            <translation>A cada </translation>
         </message>
         <message>
             <source>Sync only during scheduled hours</source>

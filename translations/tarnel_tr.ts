@@ -965,7 +965,7 @@
         </message>
         <message>
             <source>Retry Failed</source>
-            <translation>Yeniden Deneme Başarısız</translation>
+            <translation>Vazgeçildi</translation>
         </message>
         <message>
             <source>Retrying (%lld/%lld)...</source>
