@@ -377,7 +377,7 @@
         </message>
         <message>
             <source>Custom pattern (glob)</source>
-            <translation>Modello personalizzato (glob)</translation>
+            <translation>Schema personalizzato (glob)</translation>
         </message>
         <message>
             <source>DNS resolution</source>
@@ -825,11 +825,11 @@
         </message>
         <message>
             <source>Pattern (empty = no rename)</source>
-            <translation>Modello (vuoto = nessuna ridenominazione)</translation>
+            <translation>Schema (vuoto = nessuna ridenominazione)</translation>
         </message>
         <message>
             <source>Pattern:</source>
-            <translation>Modello:</translation>
+            <translation>Schema:</translation>
         </message>
         <message>
             <source>Pause</source>
@@ -965,7 +965,7 @@
         </message>
         <message>
             <source>Retry Failed</source>
-            <translation>Abbandonato</translation>
+            <translation>Fallito</translation>
         </message>
         <message>
             <source>Retrying (%lld/%lld)...</source>
@@ -1065,7 +1065,7 @@
         </message>
         <message>
             <source>Size</source>
-            <translation>Dimensione</translation>
+            <translation>Dim.</translation>
         </message>
         <message>
             <source>Size mismatch: expected %@, got %@. The file may still be uploading.</source>
@@ -1233,7 +1233,7 @@
         </message>
         <message>
             <source>Unix glob pattern: * matches any characters, ? matches one character</source>
-            <translation>Modello glob Unix: * corrisponde a qualsiasi sequenza di caratteri, ? a un solo carattere</translation>
+            <translation>Schema glob Unix: * corrisponde a qualsiasi sequenza di caratteri, ? a un solo carattere</translation>
         </message>
         <message>
             <source>Unlimited</source>
