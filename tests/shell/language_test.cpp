@@ -182,5 +182,19 @@ TEST(Language, EveryOfferedLanguageIsComplete) {
     }
 }
 
+// Qt's own dialogs (file chooser, standard buttons) speak each offered language too, in the
+// variant Qt has where it lacks the one chosen (Brazil's Portuguese for Portugal's).
+TEST(Language, QtsOwnTextsFollowTheChosenLanguage) {
+    for (const auto& [code, name] : GeneralSettingsTab::languages()) {
+        if (code == std::string("system") || code == std::string("en")) continue;
+        SCOPED_TRACE(code);
+        QTemporaryDir dir;
+        const auto paths = pathsIn(dir);
+        chooseLanguage(paths, code);
+        const AppLanguage language(paths.settingsFile);
+        EXPECT_NE(QCoreApplication::translate("QPlatformTheme", "Cancel").toStdString(), "Cancel");
+    }
+}
+
 }  // namespace
 }  // namespace tarnel
