@@ -23,7 +23,8 @@ QLocale AppLanguage::localeFor(const std::string& code) {
 }
 
 bool AppLanguage::loadOwn(QTranslator& translator, const QLocale& locale) {
-    return translator.load(locale, QStringLiteral("tarnel"), QStringLiteral("_"), QStringLiteral(":/i18n"));
+    return translator.load(locale, QStringLiteral("tarnel"), QStringLiteral("_"),
+                           QStringLiteral(":/i18n"));
 }
 
 AppLanguage::AppLanguage(const std::filesystem::path& settingsFile)
@@ -34,7 +35,8 @@ AppLanguage::AppLanguage(const std::filesystem::path& settingsFile)
     // are better in that one than in English.
     const auto qtFolder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
     if (qt_.load(locale_, QStringLiteral("qtbase"), QStringLiteral("_"), qtFolder) ||
-        qt_.load(QLocale(locale_.language()), QStringLiteral("qtbase"), QStringLiteral("_"), qtFolder))
+        qt_.load(QLocale(locale_.language()), QStringLiteral("qtbase"), QStringLiteral("_"),
+                 qtFolder))
         QCoreApplication::installTranslator(&qt_);
     setTextLookup(&translated);
 }

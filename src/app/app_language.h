@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QLocale>
-#include <QTranslator>
 #include <filesystem>
 #include <string>
+
+#include <QLocale>
+#include <QTranslator>
 
 namespace tarnel {
 
