@@ -212,12 +212,24 @@
             <translation>Després de </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>Agència / Creativitat</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>Tot</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>Tot excepte temporals (recomanat)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>Tots els fitxers</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>Tots els fitxers (sense filtre)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +250,10 @@
         <message>
             <source>Apply preset?</source>
             <translation>Voleu aplicar la plantilla?</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>Audiovisual</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -388,6 +404,10 @@
             <translation>Dades i analítica</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>Dades / Analítica</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>Dies</translation>
         </message>
@@ -460,6 +480,10 @@
             <translation>Comerç electrònic</translation>
         </message>
         <message>
+            <source>E-commerce / Data</source>
+            <translation>Comerç electrònic / Dades</translation>
+        </message>
+        <message>
             <source>Enable connection</source>
             <translation>Activa la connexió</translation>
         </message>
@@ -524,6 +548,10 @@
             <translation>Finances</translation>
         </message>
         <message>
+            <source>Finance / Accounting</source>
+            <translation>Finances / Comptabilitat</translation>
+        </message>
+        <message>
             <source>Folder error</source>
             <translation>Error de carpeta</translation>
         </message>
@@ -548,6 +576,10 @@
             <translation>Salut</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>Salut / Compliment normatiu</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>Historial...</translation>
         </message>
@@ -562,6 +594,10 @@
         <message>
             <source>IT &amp; Integrations</source>
             <translation>TI i integracions</translation>
+        </message>
+        <message>
+            <source>IT / Integrations</source>
+            <translation>TI / Integracions</translation>
         </message>
         <message>
             <source>If No Rule Matches</source>
@@ -868,6 +904,10 @@
             <translation>Fotografia</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>Només fotos</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>Reprodueix un so en baixar</translation>
         </message>
@@ -912,6 +952,10 @@
             <translation>Impremta i grafisme</translation>
         </message>
         <message>
+            <source>Print / Graphics</source>
+            <translation>Impremta / Grafisme</translation>
+        </message>
+        <message>
             <source>Privacy Policy</source>
             <translation>Política de privadesa</translation>
         </message>
@@ -954,6 +998,10 @@
         <message>
             <source>Remote path contains a control character</source>
             <translation>El camí remot conté un caràcter de control</translation>
+        </message>
+        <message>
+            <source>Research / Science</source>
+            <translation>Recerca / Ciència</translation>
         </message>
         <message>
             <source>Restart Tarnel to apply the language change.</source>
@@ -1262,6 +1310,10 @@
         <message>
             <source>Video</source>
             <translation>Vídeo</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>Només vídeo</translation>
         </message>
         <message>
             <source>Waiting...</source>

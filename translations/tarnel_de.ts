@@ -212,12 +212,24 @@
             <translation>Nach </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>Agentur / Kreativ</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>Alle</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>Alle außer temporären (empfohlen)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>Alle Dateien</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>Alle Dateien (kein Filter)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +250,10 @@
         <message>
             <source>Apply preset?</source>
             <translation>Vorlage übernehmen?</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>Audiovisuell</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -388,6 +404,10 @@
             <translation>Daten &amp; Analyse</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>Daten / Analyse</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>Tage</translation>
         </message>
@@ -460,6 +480,10 @@
             <translation>E-Commerce</translation>
         </message>
         <message>
+            <source>E-commerce / Data</source>
+            <translation>E-Commerce / Daten</translation>
+        </message>
+        <message>
             <source>Enable connection</source>
             <translation>Verbindung aktivieren</translation>
         </message>
@@ -524,6 +548,10 @@
             <translation>Finanzen</translation>
         </message>
         <message>
+            <source>Finance / Accounting</source>
+            <translation>Finanzen / Buchhaltung</translation>
+        </message>
+        <message>
             <source>Folder error</source>
             <translation>Ordnerfehler</translation>
         </message>
@@ -548,6 +576,10 @@
             <translation>Gesundheit</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>Gesundheit / Compliance</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>Verlauf...</translation>
         </message>
@@ -562,6 +594,10 @@
         <message>
             <source>IT &amp; Integrations</source>
             <translation>IT &amp; Integrationen</translation>
+        </message>
+        <message>
+            <source>IT / Integrations</source>
+            <translation>IT / Integrationen</translation>
         </message>
         <message>
             <source>If No Rule Matches</source>
@@ -868,6 +904,10 @@
             <translation>Fotografie</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>Nur Fotos</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>Bei Download einen Ton abspielen</translation>
         </message>
@@ -912,6 +952,10 @@
             <translation>Druck &amp; Grafik</translation>
         </message>
         <message>
+            <source>Print / Graphics</source>
+            <translation>Druck / Grafik</translation>
+        </message>
+        <message>
             <source>Privacy Policy</source>
             <translation>Datenschutzerklärung</translation>
         </message>
@@ -954,6 +998,10 @@
         <message>
             <source>Remote path contains a control character</source>
             <translation>Der entfernte Pfad enthält ein Steuerzeichen</translation>
+        </message>
+        <message>
+            <source>Research / Science</source>
+            <translation>Forschung / Wissenschaft</translation>
         </message>
         <message>
             <source>Restart Tarnel to apply the language change.</source>
@@ -1262,6 +1310,10 @@
         <message>
             <source>Video</source>
             <translation>Video</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>Nur Video</translation>
         </message>
         <message>
             <source>Waiting...</source>

@@ -212,12 +212,24 @@
             <translation>Tras </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>Agencia / Creatividad</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>Todos</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>Todo excepto temporales (recomendado)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>Todos los archivos</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>Todos los archivos (sin filtro)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +250,10 @@
         <message>
             <source>Apply preset?</source>
             <translation>¿Aplicar el ajuste predefinido?</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>Audiovisual</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -388,6 +404,10 @@
             <translation>Datos y análisis</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>Datos / Análisis</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>Días</translation>
         </message>
@@ -460,6 +480,10 @@
             <translation>Comercio electrónico</translation>
         </message>
         <message>
+            <source>E-commerce / Data</source>
+            <translation>Comercio electrónico / Datos</translation>
+        </message>
+        <message>
             <source>Enable connection</source>
             <translation>Activar conexión</translation>
         </message>
@@ -524,6 +548,10 @@
             <translation>Finanzas</translation>
         </message>
         <message>
+            <source>Finance / Accounting</source>
+            <translation>Finanzas / Contabilidad</translation>
+        </message>
+        <message>
             <source>Folder error</source>
             <translation>Error de carpeta</translation>
         </message>
@@ -548,6 +576,10 @@
             <translation>Salud</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>Salud / Cumplimiento</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>Historial...</translation>
         </message>
@@ -562,6 +594,10 @@
         <message>
             <source>IT &amp; Integrations</source>
             <translation>TI e integraciones</translation>
+        </message>
+        <message>
+            <source>IT / Integrations</source>
+            <translation>TI / Integraciones</translation>
         </message>
         <message>
             <source>If No Rule Matches</source>
@@ -868,6 +904,10 @@
             <translation>Fotografía</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>Solo fotos</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>Reproducir un sonido al descargar</translation>
         </message>
@@ -912,6 +952,10 @@
             <translation>Imprenta y diseño gráfico</translation>
         </message>
         <message>
+            <source>Print / Graphics</source>
+            <translation>Impresión / Gráficos</translation>
+        </message>
+        <message>
             <source>Privacy Policy</source>
             <translation>Política de privacidad</translation>
         </message>
@@ -954,6 +998,10 @@
         <message>
             <source>Remote path contains a control character</source>
             <translation>La ruta remota contiene un carácter de control</translation>
+        </message>
+        <message>
+            <source>Research / Science</source>
+            <translation>Investigación / Ciencia</translation>
         </message>
         <message>
             <source>Restart Tarnel to apply the language change.</source>
@@ -1262,6 +1310,10 @@
         <message>
             <source>Video</source>
             <translation>Vídeo</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>Solo vídeo</translation>
         </message>
         <message>
             <source>Waiting...</source>

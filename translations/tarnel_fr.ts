@@ -212,12 +212,24 @@
             <translation>Après </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>Agence / Création</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>Tous</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>Tout sauf les temporaires (recommandé)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>Tous les fichiers</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>Tous les fichiers (aucun filtre)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +250,10 @@
         <message>
             <source>Apply preset?</source>
             <translation>Appliquer le préréglage ?</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>Audiovisuel</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -388,6 +404,10 @@
             <translation>Données et analyse</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>Données / Analyse</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>Jours</translation>
         </message>
@@ -460,6 +480,10 @@
             <translation>E-commerce</translation>
         </message>
         <message>
+            <source>E-commerce / Data</source>
+            <translation>E-commerce / Données</translation>
+        </message>
+        <message>
             <source>Enable connection</source>
             <translation>Activer la connexion</translation>
         </message>
@@ -524,6 +548,10 @@
             <translation>Finance</translation>
         </message>
         <message>
+            <source>Finance / Accounting</source>
+            <translation>Finance / Comptabilité</translation>
+        </message>
+        <message>
             <source>Folder error</source>
             <translation>Erreur de dossier</translation>
         </message>
@@ -548,6 +576,10 @@
             <translation>Santé</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>Santé / Conformité</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>Historique...</translation>
         </message>
@@ -562,6 +594,10 @@
         <message>
             <source>IT &amp; Integrations</source>
             <translation>Informatique et intégrations</translation>
+        </message>
+        <message>
+            <source>IT / Integrations</source>
+            <translation>Informatique / Intégrations</translation>
         </message>
         <message>
             <source>If No Rule Matches</source>
@@ -868,6 +904,10 @@
             <translation>Photographie</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>Photos uniquement</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>Jouer un son à chaque téléchargement</translation>
         </message>
@@ -912,6 +952,10 @@
             <translation>Impression et graphisme</translation>
         </message>
         <message>
+            <source>Print / Graphics</source>
+            <translation>Impression / Graphisme</translation>
+        </message>
+        <message>
             <source>Privacy Policy</source>
             <translation>Politique de confidentialité</translation>
         </message>
@@ -954,6 +998,10 @@
         <message>
             <source>Remote path contains a control character</source>
             <translation>Le chemin distant contient un caractère de contrôle</translation>
+        </message>
+        <message>
+            <source>Research / Science</source>
+            <translation>Recherche / Science</translation>
         </message>
         <message>
             <source>Restart Tarnel to apply the language change.</source>
@@ -1262,6 +1310,10 @@
         <message>
             <source>Video</source>
             <translation>Vidéo</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>Vidéo uniquement</translation>
         </message>
         <message>
             <source>Waiting...</source>

@@ -212,12 +212,24 @@
             <translation>Dopo </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>Agenzia / Creatività</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>Tutti</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>Tutto tranne i temporanei (consigliato)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>Tutti i file</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>Tutti i file (nessun filtro)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +250,10 @@
         <message>
             <source>Apply preset?</source>
             <translation>Applicare il modello?</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>Audiovisivo</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -388,6 +404,10 @@
             <translation>Dati e analisi</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>Dati / Analisi</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>Giorni</translation>
         </message>
@@ -460,6 +480,10 @@
             <translation>E-commerce</translation>
         </message>
         <message>
+            <source>E-commerce / Data</source>
+            <translation>E-commerce / Dati</translation>
+        </message>
+        <message>
             <source>Enable connection</source>
             <translation>Attiva connessione</translation>
         </message>
@@ -524,6 +548,10 @@
             <translation>Finanza</translation>
         </message>
         <message>
+            <source>Finance / Accounting</source>
+            <translation>Finanza / Contabilità</translation>
+        </message>
+        <message>
             <source>Folder error</source>
             <translation>Errore cartella</translation>
         </message>
@@ -548,6 +576,10 @@
             <translation>Sanità</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>Sanità / Conformità</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>Cronologia...</translation>
         </message>
@@ -562,6 +594,10 @@
         <message>
             <source>IT &amp; Integrations</source>
             <translation>IT e integrazioni</translation>
+        </message>
+        <message>
+            <source>IT / Integrations</source>
+            <translation>IT / Integrazioni</translation>
         </message>
         <message>
             <source>If No Rule Matches</source>
@@ -868,6 +904,10 @@
             <translation>Fotografia</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>Solo foto</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>Riproduci un suono al download</translation>
         </message>
@@ -912,6 +952,10 @@
             <translation>Stampa e grafica</translation>
         </message>
         <message>
+            <source>Print / Graphics</source>
+            <translation>Stampa / Grafica</translation>
+        </message>
+        <message>
             <source>Privacy Policy</source>
             <translation>Informativa sulla privacy</translation>
         </message>
@@ -954,6 +998,10 @@
         <message>
             <source>Remote path contains a control character</source>
             <translation>Il percorso remoto contiene un carattere di controllo</translation>
+        </message>
+        <message>
+            <source>Research / Science</source>
+            <translation>Ricerca / Scienza</translation>
         </message>
         <message>
             <source>Restart Tarnel to apply the language change.</source>
@@ -1262,6 +1310,10 @@
         <message>
             <source>Video</source>
             <translation>Video</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>Solo video</translation>
         </message>
         <message>
             <source>Waiting...</source>

@@ -212,12 +212,24 @@
             <translation>連続 </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>代理店・クリエイティブ</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>すべて</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>一時ファイル以外すべて (推奨)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>すべてのファイル</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>すべてのファイル (フィルターなし)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +250,10 @@
         <message>
             <source>Apply preset?</source>
             <translation>プリセットを適用しますか？</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>映像・音声</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -388,6 +404,10 @@
             <translation>データ・分析</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>データ・分析</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>曜日</translation>
         </message>
@@ -460,6 +480,10 @@
             <translation>EC・通販</translation>
         </message>
         <message>
+            <source>E-commerce / Data</source>
+            <translation>EC・データ</translation>
+        </message>
+        <message>
             <source>Enable connection</source>
             <translation>接続を有効にする</translation>
         </message>
@@ -524,6 +548,10 @@
             <translation>金融</translation>
         </message>
         <message>
+            <source>Finance / Accounting</source>
+            <translation>金融・会計</translation>
+        </message>
+        <message>
             <source>Folder error</source>
             <translation>フォルダーエラー</translation>
         </message>
@@ -548,6 +576,10 @@
             <translation>医療</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>医療・コンプライアンス</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>履歴...</translation>
         </message>
@@ -561,6 +593,10 @@
         </message>
         <message>
             <source>IT &amp; Integrations</source>
+            <translation>IT・連携</translation>
+        </message>
+        <message>
+            <source>IT / Integrations</source>
             <translation>IT・連携</translation>
         </message>
         <message>
@@ -868,6 +904,10 @@
             <translation>写真</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>写真のみ</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>ダウンロード時にサウンドを再生</translation>
         </message>
@@ -909,6 +949,10 @@
         </message>
         <message>
             <source>Print &amp; Graphics</source>
+            <translation>印刷・グラフィック</translation>
+        </message>
+        <message>
+            <source>Print / Graphics</source>
             <translation>印刷・グラフィック</translation>
         </message>
         <message>
@@ -954,6 +998,10 @@
         <message>
             <source>Remote path contains a control character</source>
             <translation>リモートパスに制御文字が含まれています</translation>
+        </message>
+        <message>
+            <source>Research / Science</source>
+            <translation>研究・科学</translation>
         </message>
         <message>
             <source>Restart Tarnel to apply the language change.</source>
@@ -1262,6 +1310,10 @@
         <message>
             <source>Video</source>
             <translation>ビデオ</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>ビデオのみ</translation>
         </message>
         <message>
             <source>Waiting...</source>

@@ -212,12 +212,24 @@
             <translation>연속 </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>에이전시/크리에이티브</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>전체</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>임시 파일 제외 전체(권장)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>모든 파일</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>모든 파일(필터 없음)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +250,10 @@
         <message>
             <source>Apply preset?</source>
             <translation>프리셋을 적용하시겠습니까?</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>영상/음향</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -388,6 +404,10 @@
             <translation>데이터 및 분석</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>데이터/분석</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>요일</translation>
         </message>
@@ -460,6 +480,10 @@
             <translation>전자상거래</translation>
         </message>
         <message>
+            <source>E-commerce / Data</source>
+            <translation>전자상거래/데이터</translation>
+        </message>
+        <message>
             <source>Enable connection</source>
             <translation>연결 활성화</translation>
         </message>
@@ -524,6 +548,10 @@
             <translation>금융</translation>
         </message>
         <message>
+            <source>Finance / Accounting</source>
+            <translation>금융/회계</translation>
+        </message>
+        <message>
             <source>Folder error</source>
             <translation>폴더 오류</translation>
         </message>
@@ -548,6 +576,10 @@
             <translation>의료</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>의료/규정 준수</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>기록...</translation>
         </message>
@@ -562,6 +594,10 @@
         <message>
             <source>IT &amp; Integrations</source>
             <translation>IT 및 연동</translation>
+        </message>
+        <message>
+            <source>IT / Integrations</source>
+            <translation>IT/연동</translation>
         </message>
         <message>
             <source>If No Rule Matches</source>
@@ -868,6 +904,10 @@
             <translation>사진</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>사진만</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>다운로드 시 소리 재생</translation>
         </message>
@@ -912,6 +952,10 @@
             <translation>인쇄 및 그래픽</translation>
         </message>
         <message>
+            <source>Print / Graphics</source>
+            <translation>인쇄/그래픽</translation>
+        </message>
+        <message>
             <source>Privacy Policy</source>
             <translation>개인정보 처리방침</translation>
         </message>
@@ -954,6 +998,10 @@
         <message>
             <source>Remote path contains a control character</source>
             <translation>원격 경로에 제어 문자가 있습니다</translation>
+        </message>
+        <message>
+            <source>Research / Science</source>
+            <translation>연구/과학</translation>
         </message>
         <message>
             <source>Restart Tarnel to apply the language change.</source>
@@ -1262,6 +1310,10 @@
         <message>
             <source>Video</source>
             <translation>비디오</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>비디오만</translation>
         </message>
         <message>
             <source>Waiting...</source>

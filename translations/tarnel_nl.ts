@@ -212,12 +212,24 @@
             <translation>Na </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>Bureau / Creatief</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>Alle</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>Alles behalve tijdelijke bestanden (aanbevolen)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>Alle bestanden</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>Alle bestanden (geen filter)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +250,10 @@
         <message>
             <source>Apply preset?</source>
             <translation>Sjabloon toepassen?</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>Audiovisueel</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -388,6 +404,10 @@
             <translation>Data en analyse</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>Data / Analyse</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>Dagen</translation>
         </message>
@@ -460,6 +480,10 @@
             <translation>E-commerce</translation>
         </message>
         <message>
+            <source>E-commerce / Data</source>
+            <translation>E-commerce / Data</translation>
+        </message>
+        <message>
             <source>Enable connection</source>
             <translation>Verbinding inschakelen</translation>
         </message>
@@ -524,6 +548,10 @@
             <translation>Financiën</translation>
         </message>
         <message>
+            <source>Finance / Accounting</source>
+            <translation>Financiën / Boekhouding</translation>
+        </message>
+        <message>
             <source>Folder error</source>
             <translation>Mapfout</translation>
         </message>
@@ -548,6 +576,10 @@
             <translation>Zorg</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>Zorg / Compliance</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>Geschiedenis...</translation>
         </message>
@@ -562,6 +594,10 @@
         <message>
             <source>IT &amp; Integrations</source>
             <translation>IT en integraties</translation>
+        </message>
+        <message>
+            <source>IT / Integrations</source>
+            <translation>IT / Integraties</translation>
         </message>
         <message>
             <source>If No Rule Matches</source>
@@ -868,6 +904,10 @@
             <translation>Fotografie</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>Alleen foto's</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>Geluid afspelen bij download</translation>
         </message>
@@ -912,6 +952,10 @@
             <translation>Drukwerk en grafisch</translation>
         </message>
         <message>
+            <source>Print / Graphics</source>
+            <translation>Drukwerk / Grafisch</translation>
+        </message>
+        <message>
             <source>Privacy Policy</source>
             <translation>Privacybeleid</translation>
         </message>
@@ -954,6 +998,10 @@
         <message>
             <source>Remote path contains a control character</source>
             <translation>Het externe pad bevat een stuurteken</translation>
+        </message>
+        <message>
+            <source>Research / Science</source>
+            <translation>Onderzoek / Wetenschap</translation>
         </message>
         <message>
             <source>Restart Tarnel to apply the language change.</source>
@@ -1262,6 +1310,10 @@
         <message>
             <source>Video</source>
             <translation>Video</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>Alleen video</translation>
         </message>
         <message>
             <source>Waiting...</source>

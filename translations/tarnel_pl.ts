@@ -212,12 +212,24 @@
             <translation>Po </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>Agencja / Kreatywne</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>Wszystkie</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>Wszystko oprócz tymczasowych (zalecane)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>Wszystkie pliki</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>Wszystkie pliki (bez filtra)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +250,10 @@
         <message>
             <source>Apply preset?</source>
             <translation>Zastosować szablon?</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>Audiowizualne</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -388,6 +404,10 @@
             <translation>Dane i analityka</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>Dane / Analityka</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>Dni</translation>
         </message>
@@ -460,6 +480,10 @@
             <translation>E-commerce</translation>
         </message>
         <message>
+            <source>E-commerce / Data</source>
+            <translation>E-commerce / Dane</translation>
+        </message>
+        <message>
             <source>Enable connection</source>
             <translation>Włącz połączenie</translation>
         </message>
@@ -524,6 +548,10 @@
             <translation>Finanse</translation>
         </message>
         <message>
+            <source>Finance / Accounting</source>
+            <translation>Finanse / Księgowość</translation>
+        </message>
+        <message>
             <source>Folder error</source>
             <translation>Błąd folderu</translation>
         </message>
@@ -548,6 +576,10 @@
             <translation>Zdrowie</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>Zdrowie / Zgodność</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>Historia...</translation>
         </message>
@@ -562,6 +594,10 @@
         <message>
             <source>IT &amp; Integrations</source>
             <translation>IT i integracje</translation>
+        </message>
+        <message>
+            <source>IT / Integrations</source>
+            <translation>IT / Integracje</translation>
         </message>
         <message>
             <source>If No Rule Matches</source>
@@ -868,6 +904,10 @@
             <translation>Fotografia</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>Tylko zdjęcia</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>Odtwarzaj dźwięk po pobraniu</translation>
         </message>
@@ -912,6 +952,10 @@
             <translation>Druk i grafika</translation>
         </message>
         <message>
+            <source>Print / Graphics</source>
+            <translation>Druk / Grafika</translation>
+        </message>
+        <message>
             <source>Privacy Policy</source>
             <translation>Polityka prywatności</translation>
         </message>
@@ -954,6 +998,10 @@
         <message>
             <source>Remote path contains a control character</source>
             <translation>Ścieżka zdalna zawiera znak sterujący</translation>
+        </message>
+        <message>
+            <source>Research / Science</source>
+            <translation>Badania / Nauka</translation>
         </message>
         <message>
             <source>Restart Tarnel to apply the language change.</source>
@@ -1262,6 +1310,10 @@
         <message>
             <source>Video</source>
             <translation>Wideo</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>Tylko wideo</translation>
         </message>
         <message>
             <source>Waiting...</source>

@@ -212,12 +212,24 @@
             <translation>Após </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>Agência / Criativo</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>Todos</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>Tudo exceto temporários (recomendado)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>Todos os ficheiros</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>Todos os ficheiros (sem filtro)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +250,10 @@
         <message>
             <source>Apply preset?</source>
             <translation>Aplicar o modelo?</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>Audiovisual</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -388,6 +404,10 @@
             <translation>Dados e análise</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>Dados / Análise</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>Dias</translation>
         </message>
@@ -460,6 +480,10 @@
             <translation>Comércio eletrónico</translation>
         </message>
         <message>
+            <source>E-commerce / Data</source>
+            <translation>Comércio eletrónico / Dados</translation>
+        </message>
+        <message>
             <source>Enable connection</source>
             <translation>Ativar ligação</translation>
         </message>
@@ -524,6 +548,10 @@
             <translation>Finanças</translation>
         </message>
         <message>
+            <source>Finance / Accounting</source>
+            <translation>Finanças / Contabilidade</translation>
+        </message>
+        <message>
             <source>Folder error</source>
             <translation>Erro de pasta</translation>
         </message>
@@ -548,6 +576,10 @@
             <translation>Saúde</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>Saúde / Conformidade</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>Histórico...</translation>
         </message>
@@ -562,6 +594,10 @@
         <message>
             <source>IT &amp; Integrations</source>
             <translation>TI e integrações</translation>
+        </message>
+        <message>
+            <source>IT / Integrations</source>
+            <translation>TI / Integrações</translation>
         </message>
         <message>
             <source>If No Rule Matches</source>
@@ -868,6 +904,10 @@
             <translation>Fotografia</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>Apenas fotografias</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>Reproduzir som ao transferir</translation>
         </message>
@@ -912,6 +952,10 @@
             <translation>Impressão e gráficos</translation>
         </message>
         <message>
+            <source>Print / Graphics</source>
+            <translation>Impressão / Gráficos</translation>
+        </message>
+        <message>
             <source>Privacy Policy</source>
             <translation>Política de privacidade</translation>
         </message>
@@ -954,6 +998,10 @@
         <message>
             <source>Remote path contains a control character</source>
             <translation>O caminho remoto contém um carácter de controlo</translation>
+        </message>
+        <message>
+            <source>Research / Science</source>
+            <translation>Investigação / Ciência</translation>
         </message>
         <message>
             <source>Restart Tarnel to apply the language change.</source>
@@ -1262,6 +1310,10 @@
         <message>
             <source>Video</source>
             <translation>Vídeo</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>Apenas vídeo</translation>
         </message>
         <message>
             <source>Waiting...</source>

@@ -212,12 +212,24 @@
             <translation>Art arda </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>Ajans / Yaratıcı</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>Tümü</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>Geçiciler hariç tümü (önerilir)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>Tüm dosyalar</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>Tüm dosyalar (filtre yok)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +250,10 @@
         <message>
             <source>Apply preset?</source>
             <translation>Şablon uygulansın mı?</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>Görsel-İşitsel</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -388,6 +404,10 @@
             <translation>Veri ve Analitik</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>Veri / Analitik</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>Günler</translation>
         </message>
@@ -460,6 +480,10 @@
             <translation>E-ticaret</translation>
         </message>
         <message>
+            <source>E-commerce / Data</source>
+            <translation>E-ticaret / Veri</translation>
+        </message>
+        <message>
             <source>Enable connection</source>
             <translation>Bağlantıyı etkinleştir</translation>
         </message>
@@ -524,6 +548,10 @@
             <translation>Finans</translation>
         </message>
         <message>
+            <source>Finance / Accounting</source>
+            <translation>Finans / Muhasebe</translation>
+        </message>
+        <message>
             <source>Folder error</source>
             <translation>Klasör hatası</translation>
         </message>
@@ -548,6 +576,10 @@
             <translation>Sağlık</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>Sağlık / Uyumluluk</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>Geçmiş...</translation>
         </message>
@@ -562,6 +594,10 @@
         <message>
             <source>IT &amp; Integrations</source>
             <translation>BT ve Entegrasyonlar</translation>
+        </message>
+        <message>
+            <source>IT / Integrations</source>
+            <translation>BT / Entegrasyonlar</translation>
         </message>
         <message>
             <source>If No Rule Matches</source>
@@ -868,6 +904,10 @@
             <translation>Fotoğrafçılık</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>Yalnızca fotoğraflar</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>İndirmede ses çal</translation>
         </message>
@@ -912,6 +952,10 @@
             <translation>Baskı ve Grafik</translation>
         </message>
         <message>
+            <source>Print / Graphics</source>
+            <translation>Baskı / Grafik</translation>
+        </message>
+        <message>
             <source>Privacy Policy</source>
             <translation>Gizlilik Politikası</translation>
         </message>
@@ -954,6 +998,10 @@
         <message>
             <source>Remote path contains a control character</source>
             <translation>Uzak yol bir denetim karakteri içeriyor</translation>
+        </message>
+        <message>
+            <source>Research / Science</source>
+            <translation>Araştırma / Bilim</translation>
         </message>
         <message>
             <source>Restart Tarnel to apply the language change.</source>
@@ -1262,6 +1310,10 @@
         <message>
             <source>Video</source>
             <translation>Video</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>Yalnızca video</translation>
         </message>
         <message>
             <source>Waiting...</source>

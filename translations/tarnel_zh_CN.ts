@@ -212,12 +212,24 @@
             <translation>连续 </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>代理机构/创意</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>全部</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>除临时文件外全部 (推荐)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>所有文件</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>所有文件 (不过滤)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +250,10 @@
         <message>
             <source>Apply preset?</source>
             <translation>应用预设？</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>视听</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -388,6 +404,10 @@
             <translation>数据与分析</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>数据/分析</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>星期</translation>
         </message>
@@ -460,6 +480,10 @@
             <translation>电子商务</translation>
         </message>
         <message>
+            <source>E-commerce / Data</source>
+            <translation>电子商务/数据</translation>
+        </message>
+        <message>
             <source>Enable connection</source>
             <translation>启用连接</translation>
         </message>
@@ -524,6 +548,10 @@
             <translation>金融</translation>
         </message>
         <message>
+            <source>Finance / Accounting</source>
+            <translation>金融/会计</translation>
+        </message>
+        <message>
             <source>Folder error</source>
             <translation>文件夹错误</translation>
         </message>
@@ -548,6 +576,10 @@
             <translation>医疗</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>医疗/合规</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>历史记录...</translation>
         </message>
@@ -562,6 +594,10 @@
         <message>
             <source>IT &amp; Integrations</source>
             <translation>IT 与集成</translation>
+        </message>
+        <message>
+            <source>IT / Integrations</source>
+            <translation>IT/集成</translation>
         </message>
         <message>
             <source>If No Rule Matches</source>
@@ -868,6 +904,10 @@
             <translation>摄影</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>仅照片</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>下载时播放声音</translation>
         </message>
@@ -912,6 +952,10 @@
             <translation>印刷与图形</translation>
         </message>
         <message>
+            <source>Print / Graphics</source>
+            <translation>印刷/图形</translation>
+        </message>
+        <message>
             <source>Privacy Policy</source>
             <translation>隐私政策</translation>
         </message>
@@ -954,6 +998,10 @@
         <message>
             <source>Remote path contains a control character</source>
             <translation>远程路径包含控制字符</translation>
+        </message>
+        <message>
+            <source>Research / Science</source>
+            <translation>研究/科学</translation>
         </message>
         <message>
             <source>Restart Tarnel to apply the language change.</source>
@@ -1262,6 +1310,10 @@
         <message>
             <source>Video</source>
             <translation>视频</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>仅视频</translation>
         </message>
         <message>
             <source>Waiting...</source>
