@@ -76,6 +76,10 @@
             <translation>fa %lld s</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation>» té canvis sense aplicar.</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>»?</translation>
         </message>
@@ -252,6 +256,14 @@
             <translation>Voleu aplicar la plantilla?</translation>
         </message>
         <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>Voleu aplicar-los ara o descartar-los?</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>Voleu aplicar els canvis?</translation>
+        </message>
+        <message>
             <source>Audiovisual</source>
             <translation>Audiovisual</translation>
         </message>
@@ -302,6 +314,10 @@
         <message>
             <source>Cellular</source>
             <translation>Dades mòbils</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>Canvis aplicats</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -458,6 +474,10 @@
         <message>
             <source>Disabled</source>
             <translation>Desactivada</translation>
+        </message>
+        <message>
+            <source>Discard</source>
+            <translation>Descarta</translation>
         </message>
         <message>
             <source>Disk Space</source>
@@ -638,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>Carpeta local</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>Carpeta de registres</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -976,6 +1000,10 @@
             <translation>Torneu a seleccionar la carpeta per concedir accés permanent</translation>
         </message>
         <message>
+            <source>Read Me</source>
+            <translation>Llegiu-me</translation>
+        </message>
+        <message>
             <source>Recommended for critical transfers. May double download time.</source>
             <translation>Recomanat per a transferències crítiques. Pot doblar el temps de baixada.</translation>
         </message>
@@ -1250,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>La clau d'amfitrió del servidor SFTP ha canviat des de l'última connexió a %@. Això pot voler dir que algú intercepta la connexió. Si el canvi és esperat (el servidor s'ha reinstal·lat o se n'ha substituït la clau), suprimiu la línia de %@ de %@ i torneu a connectar.</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>La connexió «</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>

@@ -76,6 +76,10 @@
             <translation>vor %lld s</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation>“ hat Änderungen, die nicht übernommen wurden.</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>“ löschen?</translation>
         </message>
@@ -252,6 +256,14 @@
             <translation>Vorlage übernehmen?</translation>
         </message>
         <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>Jetzt übernehmen oder verwerfen?</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>Änderungen übernehmen?</translation>
+        </message>
+        <message>
             <source>Audiovisual</source>
             <translation>Audiovisuell</translation>
         </message>
@@ -302,6 +314,10 @@
         <message>
             <source>Cellular</source>
             <translation>Mobilfunk</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>Änderungen übernommen</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -458,6 +474,10 @@
         <message>
             <source>Disabled</source>
             <translation>Deaktiviert</translation>
+        </message>
+        <message>
+            <source>Discard</source>
+            <translation>Verwerfen</translation>
         </message>
         <message>
             <source>Disk Space</source>
@@ -638,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>Lokaler Ordner</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>Protokollordner</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -976,6 +1000,10 @@
             <translation>Ordner erneut auswählen, um dauerhaften Zugriff zu erlauben</translation>
         </message>
         <message>
+            <source>Read Me</source>
+            <translation>Liesmich</translation>
+        </message>
+        <message>
             <source>Recommended for critical transfers. May double download time.</source>
             <translation>Für wichtige Übertragungen empfohlen. Kann die Downloadzeit verdoppeln.</translation>
         </message>
@@ -1250,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>Der Hostschlüssel des SFTP-Servers hat sich seit der letzten Verbindung zu %@ geändert. Das kann bedeuten, dass jemand die Verbindung abfängt. Ist die Änderung erwartet (der Server wurde neu installiert oder sein Schlüssel ersetzt), entfernen Sie die Zeile für %@ aus %@ und verbinden Sie sich erneut.</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>Die Verbindung „</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>

@@ -76,6 +76,10 @@
             <translation>hace %lld s</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation>» tiene cambios sin aplicar.</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>»?</translation>
         </message>
@@ -252,6 +256,14 @@
             <translation>¿Aplicar el ajuste predefinido?</translation>
         </message>
         <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>¿Aplicarlos ahora o descartarlos?</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>¿Aplicar los cambios?</translation>
+        </message>
+        <message>
             <source>Audiovisual</source>
             <translation>Audiovisual</translation>
         </message>
@@ -302,6 +314,10 @@
         <message>
             <source>Cellular</source>
             <translation>Red móvil</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>Cambios aplicados</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -458,6 +474,10 @@
         <message>
             <source>Disabled</source>
             <translation>Desactivada</translation>
+        </message>
+        <message>
+            <source>Discard</source>
+            <translation>Descartar</translation>
         </message>
         <message>
             <source>Disk Space</source>
@@ -638,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>Carpeta local</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>Carpeta de registros</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -976,6 +1000,10 @@
             <translation>Vuelva a elegir la carpeta para conceder acceso permanente</translation>
         </message>
         <message>
+            <source>Read Me</source>
+            <translation>Léame</translation>
+        </message>
+        <message>
             <source>Recommended for critical transfers. May double download time.</source>
             <translation>Recomendado para transferencias críticas. Puede duplicar el tiempo de descarga.</translation>
         </message>
@@ -1250,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>La clave de host del servidor SFTP ha cambiado desde la última conexión a %@. Esto puede significar que alguien está interceptando la conexión. Si el cambio es esperado (se reinstaló el servidor o se sustituyó su clave), elimine la línea de %@ en %@ y vuelva a conectar.</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>La conexión «</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>

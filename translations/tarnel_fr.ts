@@ -76,6 +76,10 @@
             <translation>il y a %lld s</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation> » a des modifications non appliquées.</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation> » ?</translation>
         </message>
@@ -252,6 +256,14 @@
             <translation>Appliquer le préréglage ?</translation>
         </message>
         <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>Les appliquer maintenant ou les abandonner ?</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>Appliquer les modifications ?</translation>
+        </message>
+        <message>
             <source>Audiovisual</source>
             <translation>Audiovisuel</translation>
         </message>
@@ -302,6 +314,10 @@
         <message>
             <source>Cellular</source>
             <translation>Réseau mobile</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>Modifications appliquées</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -458,6 +474,10 @@
         <message>
             <source>Disabled</source>
             <translation>Désactivée</translation>
+        </message>
+        <message>
+            <source>Discard</source>
+            <translation>Abandonner</translation>
         </message>
         <message>
             <source>Disk Space</source>
@@ -638,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>Dossier local</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>Dossier des journaux</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -976,6 +1000,10 @@
             <translation>Sélectionnez à nouveau le dossier pour accorder un accès permanent</translation>
         </message>
         <message>
+            <source>Read Me</source>
+            <translation>Lisez-moi</translation>
+        </message>
+        <message>
             <source>Recommended for critical transfers. May double download time.</source>
             <translation>Recommandé pour les transferts critiques. Peut doubler la durée du téléchargement.</translation>
         </message>
@@ -1250,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>La clé d'hôte du serveur SFTP a changé depuis la dernière connexion à %@. Cela peut signifier que quelqu'un intercepte la connexion. Si ce changement est attendu (le serveur a été réinstallé ou sa clé remplacée), supprimez la ligne de %@ dans %@ et reconnectez-vous.</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>La connexion « </translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>

@@ -76,6 +76,10 @@
             <translation>%lld s fa</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation>» ha modifiche non applicate.</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>»?</translation>
         </message>
@@ -252,6 +256,14 @@
             <translation>Applicare il modello?</translation>
         </message>
         <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>Applicarle ora o scartarle?</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>Applicare le modifiche?</translation>
+        </message>
+        <message>
             <source>Audiovisual</source>
             <translation>Audiovisivo</translation>
         </message>
@@ -302,6 +314,10 @@
         <message>
             <source>Cellular</source>
             <translation>Rete mobile</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>Modifiche applicate</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -458,6 +474,10 @@
         <message>
             <source>Disabled</source>
             <translation>Disattivata</translation>
+        </message>
+        <message>
+            <source>Discard</source>
+            <translation>Scarta</translation>
         </message>
         <message>
             <source>Disk Space</source>
@@ -638,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>Cartella locale</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>Cartella dei registri</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -976,6 +1000,10 @@
             <translation>Seleziona di nuovo la cartella per concedere l'accesso permanente</translation>
         </message>
         <message>
+            <source>Read Me</source>
+            <translation>Leggimi</translation>
+        </message>
+        <message>
             <source>Recommended for critical transfers. May double download time.</source>
             <translation>Consigliato per i trasferimenti critici. Può raddoppiare il tempo di download.</translation>
         </message>
@@ -1250,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>La chiave host del server SFTP è cambiata dall'ultima connessione a %@. Qualcuno potrebbe intercettare la connessione. Se il cambio è previsto (il server è stato reinstallato o la sua chiave sostituita), rimuovi la riga di %@ da %@ e connettiti di nuovo.</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>La connessione «</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>

@@ -76,6 +76,10 @@
             <translation>%lld 秒前</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation>」に適用していない変更があります。</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>」を削除しますか？</translation>
         </message>
@@ -252,6 +256,14 @@
             <translation>プリセットを適用しますか？</translation>
         </message>
         <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>今すぐ適用するか、破棄しますか？</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>変更を適用しますか？</translation>
+        </message>
+        <message>
             <source>Audiovisual</source>
             <translation>映像・音声</translation>
         </message>
@@ -302,6 +314,10 @@
         <message>
             <source>Cellular</source>
             <translation>モバイル回線</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>変更を適用しました</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -458,6 +474,10 @@
         <message>
             <source>Disabled</source>
             <translation>無効</translation>
+        </message>
+        <message>
+            <source>Discard</source>
+            <translation>破棄</translation>
         </message>
         <message>
             <source>Disk Space</source>
@@ -638,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>ローカルフォルダー</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>ログフォルダー</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -976,6 +1000,10 @@
             <translation>フォルダーを選択し直して永続的なアクセスを許可してください</translation>
         </message>
         <message>
+            <source>Read Me</source>
+            <translation>お読みください</translation>
+        </message>
+        <message>
             <source>Recommended for critical transfers. May double download time.</source>
             <translation>重要な転送にお勧めします。ダウンロード時間が 2 倍になることがあります。</translation>
         </message>
@@ -1250,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>SFTP サーバーのホスト鍵が、前回 %@ に接続したときから変わっています。誰かが接続を傍受している可能性があります。変更が想定どおりの場合 (サーバーの再インストールや鍵の交換)、%@ の行を %@ から削除して接続し直してください。</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>接続「</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>

@@ -76,6 +76,10 @@
             <translation>%lld초 전</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation>’ 연결에 적용하지 않은 변경 사항이 있습니다.</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>’ 연결을 삭제하시겠습니까?</translation>
         </message>
@@ -252,6 +256,14 @@
             <translation>프리셋을 적용하시겠습니까?</translation>
         </message>
         <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>지금 적용하거나 버리시겠습니까?</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>변경 사항을 적용하시겠습니까?</translation>
+        </message>
+        <message>
             <source>Audiovisual</source>
             <translation>영상/음향</translation>
         </message>
@@ -302,6 +314,10 @@
         <message>
             <source>Cellular</source>
             <translation>모바일 데이터</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>변경 사항 적용됨</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -458,6 +474,10 @@
         <message>
             <source>Disabled</source>
             <translation>비활성화됨</translation>
+        </message>
+        <message>
+            <source>Discard</source>
+            <translation>버리기</translation>
         </message>
         <message>
             <source>Disk Space</source>
@@ -638,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>로컬 폴더</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>로그 폴더</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -976,6 +1000,10 @@
             <translation>영구 접근 권한을 주려면 폴더를 다시 선택하세요</translation>
         </message>
         <message>
+            <source>Read Me</source>
+            <translation>읽어 보기</translation>
+        </message>
+        <message>
             <source>Recommended for critical transfers. May double download time.</source>
             <translation>중요한 전송에 권장합니다. 다운로드 시간이 두 배가 될 수 있습니다.</translation>
         </message>
@@ -1250,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>%@에 마지막으로 연결한 뒤 SFTP 서버의 호스트 키가 바뀌었습니다. 누군가 연결을 가로채고 있을 수 있습니다. 예상된 변경이라면(서버를 다시 설치했거나 키를 교체함) %@ 항목 줄을 %@에서 지우고 다시 연결하세요.</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>‘</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>

@@ -76,6 +76,10 @@
             <translation>%lld s geleden</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation>’ heeft wijzigingen die nog niet zijn toegepast.</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>’ verwijderen?</translation>
         </message>
@@ -252,6 +256,14 @@
             <translation>Sjabloon toepassen?</translation>
         </message>
         <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>Nu toepassen of verwerpen?</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>Wijzigingen toepassen?</translation>
+        </message>
+        <message>
             <source>Audiovisual</source>
             <translation>Audiovisueel</translation>
         </message>
@@ -302,6 +314,10 @@
         <message>
             <source>Cellular</source>
             <translation>Mobiel netwerk</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>Wijzigingen toegepast</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -458,6 +474,10 @@
         <message>
             <source>Disabled</source>
             <translation>Uitgeschakeld</translation>
+        </message>
+        <message>
+            <source>Discard</source>
+            <translation>Verwerpen</translation>
         </message>
         <message>
             <source>Disk Space</source>
@@ -638,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>Lokale map</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>Logboekmap</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -976,6 +1000,10 @@
             <translation>Selecteer de map opnieuw om blijvend toegang te geven</translation>
         </message>
         <message>
+            <source>Read Me</source>
+            <translation>Leesmij</translation>
+        </message>
+        <message>
             <source>Recommended for critical transfers. May double download time.</source>
             <translation>Aanbevolen voor belangrijke overdrachten. Kan de downloadtijd verdubbelen.</translation>
         </message>
@@ -1250,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>De hostsleutel van de SFTP-server is gewijzigd sinds de laatste verbinding met %@. Dit kan betekenen dat iemand de verbinding onderschept. Is de wijziging verwacht (de server is opnieuw geïnstalleerd of de sleutel vervangen), verwijder dan de regel voor %@ uit %@ en maak opnieuw verbinding.</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>De verbinding ‘</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>

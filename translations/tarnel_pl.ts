@@ -76,6 +76,10 @@
             <translation>%lld s temu</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation>” ma niezastosowane zmiany.</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>”?</translation>
         </message>
@@ -252,6 +256,14 @@
             <translation>Zastosować szablon?</translation>
         </message>
         <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>Zastosować je teraz czy odrzucić?</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>Zastosować zmiany?</translation>
+        </message>
+        <message>
             <source>Audiovisual</source>
             <translation>Audiowizualne</translation>
         </message>
@@ -302,6 +314,10 @@
         <message>
             <source>Cellular</source>
             <translation>Sieć komórkowa</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>Zmiany zastosowane</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -458,6 +474,10 @@
         <message>
             <source>Disabled</source>
             <translation>Wyłączone</translation>
+        </message>
+        <message>
+            <source>Discard</source>
+            <translation>Odrzuć</translation>
         </message>
         <message>
             <source>Disk Space</source>
@@ -638,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>Folder lokalny</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>Folder dziennika</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -976,6 +1000,10 @@
             <translation>Wybierz folder ponownie, aby nadać stały dostęp</translation>
         </message>
         <message>
+            <source>Read Me</source>
+            <translation>Przeczytaj mnie</translation>
+        </message>
+        <message>
             <source>Recommended for critical transfers. May double download time.</source>
             <translation>Zalecane przy ważnych transferach. Może podwoić czas pobierania.</translation>
         </message>
@@ -1250,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>Klucz hosta serwera SFTP zmienił się od ostatniego połączenia z %@. Może to oznaczać, że ktoś przechwytuje połączenie. Jeśli zmiana jest oczekiwana (serwer przeinstalowano lub wymieniono jego klucz), usuń wiersz dla %@ z %@ i połącz się ponownie.</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>Połączenie „</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>

@@ -76,6 +76,10 @@
             <translation>há %lld s</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation>» tem alterações por aplicar.</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>»?</translation>
         </message>
@@ -252,6 +256,14 @@
             <translation>Aplicar o modelo?</translation>
         </message>
         <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>Aplicá-las agora ou descartá-las?</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>Aplicar as alterações?</translation>
+        </message>
+        <message>
             <source>Audiovisual</source>
             <translation>Audiovisual</translation>
         </message>
@@ -302,6 +314,10 @@
         <message>
             <source>Cellular</source>
             <translation>Rede móvel</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>Alterações aplicadas</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -458,6 +474,10 @@
         <message>
             <source>Disabled</source>
             <translation>Desativada</translation>
+        </message>
+        <message>
+            <source>Discard</source>
+            <translation>Descartar</translation>
         </message>
         <message>
             <source>Disk Space</source>
@@ -638,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>Pasta local</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>Pasta de registos</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -976,6 +1000,10 @@
             <translation>Volte a selecionar a pasta para conceder acesso permanente</translation>
         </message>
         <message>
+            <source>Read Me</source>
+            <translation>Leia-me</translation>
+        </message>
+        <message>
             <source>Recommended for critical transfers. May double download time.</source>
             <translation>Recomendado para transferências críticas. Pode duplicar o tempo de transferência.</translation>
         </message>
@@ -1250,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>A chave do anfitrião do servidor SFTP mudou desde a última ligação a %@. Isto pode significar que alguém está a intercetar a ligação. Se a mudança era esperada (o servidor foi reinstalado ou a chave substituída), remova a linha de %@ de %@ e volte a ligar.</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>A ligação «</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>

@@ -76,6 +76,10 @@
             <translation>%lld sn önce</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation>’ bağlantısında uygulanmamış değişiklikler var.</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>’ silinsin mi?</translation>
         </message>
@@ -252,6 +256,14 @@
             <translation>Şablon uygulansın mı?</translation>
         </message>
         <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>Şimdi uygulansın mı, yoksa atılsın mı?</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>Değişiklikler uygulansın mı?</translation>
+        </message>
+        <message>
             <source>Audiovisual</source>
             <translation>Görsel-İşitsel</translation>
         </message>
@@ -302,6 +314,10 @@
         <message>
             <source>Cellular</source>
             <translation>Mobil veri</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>Değişiklikler uygulandı</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -458,6 +474,10 @@
         <message>
             <source>Disabled</source>
             <translation>Devre dışı</translation>
+        </message>
+        <message>
+            <source>Discard</source>
+            <translation>At</translation>
         </message>
         <message>
             <source>Disk Space</source>
@@ -638,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>Yerel Klasör</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>Günlük Klasörü</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -976,6 +1000,10 @@
             <translation>Kalıcı erişim vermek için klasörü yeniden seçin</translation>
         </message>
         <message>
+            <source>Read Me</source>
+            <translation>Beni Oku</translation>
+        </message>
+        <message>
             <source>Recommended for critical transfers. May double download time.</source>
             <translation>Önemli aktarımlar için önerilir. İndirme süresini iki katına çıkarabilir.</translation>
         </message>
@@ -1250,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>SFTP sunucusunun ana makine anahtarı, %@ ile son bağlantıdan bu yana değişti. Bu, birinin bağlantıyı dinlediği anlamına gelebilir. Değişiklik bekleniyorsa (sunucu yeniden kuruldu veya anahtarı değiştirildi), %@ satırını %@ dosyasından silin ve yeniden bağlanın.</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>‘</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>

@@ -76,6 +76,10 @@
             <translation>%lld 秒前</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation>”有尚未应用的更改。</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>”吗？</translation>
         </message>
@@ -252,6 +256,14 @@
             <translation>应用预设？</translation>
         </message>
         <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>立即应用还是放弃这些更改？</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>应用更改？</translation>
+        </message>
+        <message>
             <source>Audiovisual</source>
             <translation>视听</translation>
         </message>
@@ -302,6 +314,10 @@
         <message>
             <source>Cellular</source>
             <translation>移动网络</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>已应用更改</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -458,6 +474,10 @@
         <message>
             <source>Disabled</source>
             <translation>已禁用</translation>
+        </message>
+        <message>
+            <source>Discard</source>
+            <translation>放弃</translation>
         </message>
         <message>
             <source>Disk Space</source>
@@ -638,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>本地文件夹</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>日志文件夹</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -976,6 +1000,10 @@
             <translation>重新选择文件夹以授予持久访问权限</translation>
         </message>
         <message>
+            <source>Read Me</source>
+            <translation>自述文件</translation>
+        </message>
+        <message>
             <source>Recommended for critical transfers. May double download time.</source>
             <translation>推荐用于关键传输。可能使下载时间加倍。</translation>
         </message>
@@ -1250,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>自上次连接到 %@ 以来，SFTP 服务器的主机密钥已更改。这可能意味着有人正在拦截连接。如果这一更改在预期之中 (服务器已重装或密钥已更换)，请删除 %@ 在 %@ 中的那一行，然后重新连接。</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>连接“</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>
