@@ -32,7 +32,7 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${TARNEL_WEBSITE})
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils, libglib2.0-bin")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "libcanberra-pulse")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "libcanberra-pulse, qt6-translations-l10n, fonts-noto-cjk")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 include(CPack)

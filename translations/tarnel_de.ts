@@ -76,6 +76,10 @@
             <translation>vor %lld s</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation>“ hat Änderungen, die nicht übernommen wurden.</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>“ löschen?</translation>
         </message>
@@ -212,12 +216,24 @@
             <translation>Nach </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>Agentur / Kreativ</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>Alle</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>Alle außer temporären (empfohlen)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>Alle Dateien</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>Alle Dateien (kein Filter)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +254,18 @@
         <message>
             <source>Apply preset?</source>
             <translation>Vorlage übernehmen?</translation>
+        </message>
+        <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>Jetzt übernehmen oder verwerfen?</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>Änderungen übernehmen?</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>Audiovisuell</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -280,12 +308,16 @@
             <translation>Keine Verbindung zu Port %lld möglich</translation>
         </message>
         <message>
-            <source>Cannot write to '%@'. Check folder permissions in Finder &gt; Get Info.</source>
-            <translation>In „%@“ kann nicht geschrieben werden. Prüfen Sie die Zugriffsrechte des Ordners.</translation>
+            <source>Cannot write to '%@'. Check the folder's permissions in the file manager.</source>
+            <translation>In „%@“ kann nicht geschrieben werden. Prüfen Sie die Zugriffsrechte des Ordners im Dateimanager.</translation>
         </message>
         <message>
             <source>Cellular</source>
             <translation>Mobilfunk</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>Änderungen übernommen</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -388,6 +420,10 @@
             <translation>Daten &amp; Analyse</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>Daten / Analyse</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>Tage</translation>
         </message>
@@ -440,6 +476,10 @@
             <translation>Deaktiviert</translation>
         </message>
         <message>
+            <source>Discard</source>
+            <translation>Verwerfen</translation>
+        </message>
+        <message>
             <source>Disk Space</source>
             <translation>Speicherplatz</translation>
         </message>
@@ -458,6 +498,10 @@
         <message>
             <source>E-commerce</source>
             <translation>E-Commerce</translation>
+        </message>
+        <message>
+            <source>E-commerce / Data</source>
+            <translation>E-Commerce / Daten</translation>
         </message>
         <message>
             <source>Enable connection</source>
@@ -524,8 +568,8 @@
             <translation>Finanzen</translation>
         </message>
         <message>
-            <source>Finder Tags</source>
-            <translation>Finder-Tags</translation>
+            <source>Finance / Accounting</source>
+            <translation>Finanzen / Buchhaltung</translation>
         </message>
         <message>
             <source>Folder error</source>
@@ -552,6 +596,10 @@
             <translation>Gesundheit</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>Gesundheit / Compliance</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>Verlauf...</translation>
         </message>
@@ -568,11 +616,15 @@
             <translation>IT &amp; Integrationen</translation>
         </message>
         <message>
+            <source>IT / Integrations</source>
+            <translation>IT / Integrationen</translation>
+        </message>
+        <message>
             <source>If No Rule Matches</source>
             <translation>Wenn keine Regel zutrifft</translation>
         </message>
         <message>
-            <source>If the Mac sleeps anyway (battery, lid close), transfers will pause and resume automatically on wake.</source>
+            <source>If the computer sleeps anyway (battery, lid close), transfers will pause and resume automatically on wake.</source>
             <translation>Geht der Computer trotzdem in den Ruhezustand (Akku, Deckel zu), werden Übertragungen angehalten und beim Aufwachen automatisch fortgesetzt.</translation>
         </message>
         <message>
@@ -596,7 +648,7 @@
             <translation>Letzte Aktivität: </translation>
         </message>
         <message>
-            <source>Launch Tarnel when Mac starts</source>
+            <source>Launch Tarnel when you log in</source>
             <translation>Tarnel beim Anmelden starten</translation>
         </message>
         <message>
@@ -606,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>Lokaler Ordner</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>Protokollordner</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -872,6 +928,10 @@
             <translation>Fotografie</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>Nur Fotos</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>Bei Download einen Ton abspielen</translation>
         </message>
@@ -905,7 +965,7 @@
         </message>
         <message>
             <source>Preview</source>
-            <translation>Anhören</translation>
+            <translation>Vorschau</translation>
         </message>
         <message>
             <source>Preview:</source>
@@ -914,6 +974,10 @@
         <message>
             <source>Print &amp; Graphics</source>
             <translation>Druck &amp; Grafik</translation>
+        </message>
+        <message>
+            <source>Print / Graphics</source>
+            <translation>Druck / Grafik</translation>
         </message>
         <message>
             <source>Privacy Policy</source>
@@ -934,6 +998,10 @@
         <message>
             <source>Re-select folder to grant persistent access</source>
             <translation>Ordner erneut auswählen, um dauerhaften Zugriff zu erlauben</translation>
+        </message>
+        <message>
+            <source>Read Me</source>
+            <translation>Liesmich</translation>
         </message>
         <message>
             <source>Recommended for critical transfers. May double download time.</source>
@@ -960,6 +1028,10 @@
             <translation>Der entfernte Pfad enthält ein Steuerzeichen</translation>
         </message>
         <message>
+            <source>Research / Science</source>
+            <translation>Forschung / Wissenschaft</translation>
+        </message>
+        <message>
             <source>Restart Tarnel to apply the language change.</source>
             <translation>Starten Sie Tarnel neu, um die Sprache zu wechseln.</translation>
         </message>
@@ -969,7 +1041,7 @@
         </message>
         <message>
             <source>Retry Failed</source>
-            <translation>Wiederholung fehlgeschlagen</translation>
+            <translation>Aufgegeben</translation>
         </message>
         <message>
             <source>Retrying (%lld/%lld)...</source>
@@ -1152,6 +1224,10 @@
             <translation>TCP-Verbindung</translation>
         </message>
         <message>
+            <source>Tags</source>
+            <translation>Tags</translation>
+        </message>
+        <message>
             <source>Tarnel %1 (build %2)</source>
             <translation>Tarnel %1 (Build %2)</translation>
         </message>
@@ -1202,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>Der Hostschlüssel des SFTP-Servers hat sich seit der letzten Verbindung zu %@ geändert. Das kann bedeuten, dass jemand die Verbindung abfängt. Ist die Änderung erwartet (der Server wurde neu installiert oder sein Schlüssel ersetzt), entfernen Sie die Zeile für %@ aus %@ und verbinden Sie sich erneut.</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>Die Verbindung „</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>
@@ -1262,6 +1342,10 @@
         <message>
             <source>Video</source>
             <translation>Video</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>Nur Video</translation>
         </message>
         <message>
             <source>Waiting...</source>

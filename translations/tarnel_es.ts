@@ -76,6 +76,10 @@
             <translation>hace %lld s</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation>» tiene cambios sin aplicar.</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation>»?</translation>
         </message>
@@ -212,12 +216,24 @@
             <translation>Tras </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>Agencia / Creatividad</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>Todos</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>Todo excepto temporales (recomendado)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>Todos los archivos</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>Todos los archivos (sin filtro)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +254,18 @@
         <message>
             <source>Apply preset?</source>
             <translation>¿Aplicar el ajuste predefinido?</translation>
+        </message>
+        <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>¿Aplicarlos ahora o descartarlos?</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>¿Aplicar los cambios?</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>Audiovisual</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -280,12 +308,16 @@
             <translation>No se puede conectar al puerto %lld</translation>
         </message>
         <message>
-            <source>Cannot write to '%@'. Check folder permissions in Finder &gt; Get Info.</source>
-            <translation>No se puede escribir en «%@». Compruebe los permisos de la carpeta.</translation>
+            <source>Cannot write to '%@'. Check the folder's permissions in the file manager.</source>
+            <translation>No se puede escribir en «%@». Compruebe los permisos de la carpeta en el gestor de archivos.</translation>
         </message>
         <message>
             <source>Cellular</source>
             <translation>Red móvil</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>Cambios aplicados</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -388,6 +420,10 @@
             <translation>Datos y análisis</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>Datos / Análisis</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>Días</translation>
         </message>
@@ -440,6 +476,10 @@
             <translation>Desactivada</translation>
         </message>
         <message>
+            <source>Discard</source>
+            <translation>Descartar</translation>
+        </message>
+        <message>
             <source>Disk Space</source>
             <translation>Espacio en disco</translation>
         </message>
@@ -458,6 +498,10 @@
         <message>
             <source>E-commerce</source>
             <translation>Comercio electrónico</translation>
+        </message>
+        <message>
+            <source>E-commerce / Data</source>
+            <translation>Comercio electrónico / Datos</translation>
         </message>
         <message>
             <source>Enable connection</source>
@@ -524,8 +568,8 @@
             <translation>Finanzas</translation>
         </message>
         <message>
-            <source>Finder Tags</source>
-            <translation>Etiquetas del Finder</translation>
+            <source>Finance / Accounting</source>
+            <translation>Finanzas / Contabilidad</translation>
         </message>
         <message>
             <source>Folder error</source>
@@ -552,6 +596,10 @@
             <translation>Salud</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>Salud / Cumplimiento</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>Historial...</translation>
         </message>
@@ -568,11 +616,15 @@
             <translation>TI e integraciones</translation>
         </message>
         <message>
+            <source>IT / Integrations</source>
+            <translation>TI / Integraciones</translation>
+        </message>
+        <message>
             <source>If No Rule Matches</source>
             <translation>Si ninguna regla coincide</translation>
         </message>
         <message>
-            <source>If the Mac sleeps anyway (battery, lid close), transfers will pause and resume automatically on wake.</source>
+            <source>If the computer sleeps anyway (battery, lid close), transfers will pause and resume automatically on wake.</source>
             <translation>Si el equipo entra en reposo de todos modos (batería, tapa cerrada), las transferencias se pausan y se reanudan solas al despertar.</translation>
         </message>
         <message>
@@ -596,7 +648,7 @@
             <translation>Última actividad: </translation>
         </message>
         <message>
-            <source>Launch Tarnel when Mac starts</source>
+            <source>Launch Tarnel when you log in</source>
             <translation>Abrir Tarnel al iniciar sesión</translation>
         </message>
         <message>
@@ -606,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>Carpeta local</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>Carpeta de registros</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -872,6 +928,10 @@
             <translation>Fotografía</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>Solo fotos</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>Reproducir un sonido al descargar</translation>
         </message>
@@ -905,7 +965,7 @@
         </message>
         <message>
             <source>Preview</source>
-            <translation>Escuchar</translation>
+            <translation>Vista previa</translation>
         </message>
         <message>
             <source>Preview:</source>
@@ -914,6 +974,10 @@
         <message>
             <source>Print &amp; Graphics</source>
             <translation>Imprenta y diseño gráfico</translation>
+        </message>
+        <message>
+            <source>Print / Graphics</source>
+            <translation>Impresión / Gráficos</translation>
         </message>
         <message>
             <source>Privacy Policy</source>
@@ -934,6 +998,10 @@
         <message>
             <source>Re-select folder to grant persistent access</source>
             <translation>Vuelva a elegir la carpeta para conceder acceso permanente</translation>
+        </message>
+        <message>
+            <source>Read Me</source>
+            <translation>Léame</translation>
         </message>
         <message>
             <source>Recommended for critical transfers. May double download time.</source>
@@ -960,6 +1028,10 @@
             <translation>La ruta remota contiene un carácter de control</translation>
         </message>
         <message>
+            <source>Research / Science</source>
+            <translation>Investigación / Ciencia</translation>
+        </message>
+        <message>
             <source>Restart Tarnel to apply the language change.</source>
             <translation>Reinicie Tarnel para aplicar el cambio de idioma.</translation>
         </message>
@@ -969,7 +1041,7 @@
         </message>
         <message>
             <source>Retry Failed</source>
-            <translation>Reintento fallido</translation>
+            <translation>Agotado</translation>
         </message>
         <message>
             <source>Retrying (%lld/%lld)...</source>
@@ -1152,6 +1224,10 @@
             <translation>Conexión TCP</translation>
         </message>
         <message>
+            <source>Tags</source>
+            <translation>Etiquetas</translation>
+        </message>
+        <message>
             <source>Tarnel %1 (build %2)</source>
             <translation>Tarnel %1 (compilación %2)</translation>
         </message>
@@ -1202,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>La clave de host del servidor SFTP ha cambiado desde la última conexión a %@. Esto puede significar que alguien está interceptando la conexión. Si el cambio es esperado (se reinstaló el servidor o se sustituyó su clave), elimine la línea de %@ en %@ y vuelva a conectar.</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>La conexión «</translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>
@@ -1262,6 +1342,10 @@
         <message>
             <source>Video</source>
             <translation>Vídeo</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>Solo vídeo</translation>
         </message>
         <message>
             <source>Waiting...</source>

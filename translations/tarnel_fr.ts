@@ -76,6 +76,10 @@
             <translation>il y a %lld s</translation>
         </message>
         <message>
+            <source>' has changes that were not applied.</source>
+            <translation> » a des modifications non appliquées.</translation>
+        </message>
+        <message>
             <source>'?</source>
             <translation> » ?</translation>
         </message>
@@ -212,12 +216,24 @@
             <translation>Après </translation>
         </message>
         <message>
+            <source>Agency / Creative</source>
+            <translation>Agence / Création</translation>
+        </message>
+        <message>
             <source>All</source>
             <translation>Tous</translation>
         </message>
         <message>
+            <source>All except temporaries (recommended)</source>
+            <translation>Tout sauf les temporaires (recommandé)</translation>
+        </message>
+        <message>
             <source>All files</source>
             <translation>Tous les fichiers</translation>
+        </message>
+        <message>
+            <source>All files (no filter)</source>
+            <translation>Tous les fichiers (aucun filtre)</translation>
         </message>
         <message>
             <source>All files flat (one folder)</source>
@@ -238,6 +254,18 @@
         <message>
             <source>Apply preset?</source>
             <translation>Appliquer le préréglage ?</translation>
+        </message>
+        <message>
+            <source>Apply them now, or discard them?</source>
+            <translation>Les appliquer maintenant ou les abandonner ?</translation>
+        </message>
+        <message>
+            <source>Apply your changes?</source>
+            <translation>Appliquer les modifications ?</translation>
+        </message>
+        <message>
+            <source>Audiovisual</source>
+            <translation>Audiovisuel</translation>
         </message>
         <message>
             <source>Authentication</source>
@@ -280,12 +308,16 @@
             <translation>Impossible de se connecter au port %lld</translation>
         </message>
         <message>
-            <source>Cannot write to '%@'. Check folder permissions in Finder &gt; Get Info.</source>
-            <translation>Impossible d'écrire dans « %@ ». Vérifiez les autorisations du dossier.</translation>
+            <source>Cannot write to '%@'. Check the folder's permissions in the file manager.</source>
+            <translation>Impossible d'écrire dans « %@ ». Vérifiez les autorisations du dossier dans le gestionnaire de fichiers.</translation>
         </message>
         <message>
             <source>Cellular</source>
             <translation>Réseau mobile</translation>
+        </message>
+        <message>
+            <source>Changes applied</source>
+            <translation>Modifications appliquées</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -388,6 +420,10 @@
             <translation>Données et analyse</translation>
         </message>
         <message>
+            <source>Data / Analytics</source>
+            <translation>Données / Analyse</translation>
+        </message>
+        <message>
             <source>Days</source>
             <translation>Jours</translation>
         </message>
@@ -440,6 +476,10 @@
             <translation>Désactivée</translation>
         </message>
         <message>
+            <source>Discard</source>
+            <translation>Abandonner</translation>
+        </message>
+        <message>
             <source>Disk Space</source>
             <translation>Espace disque</translation>
         </message>
@@ -458,6 +498,10 @@
         <message>
             <source>E-commerce</source>
             <translation>E-commerce</translation>
+        </message>
+        <message>
+            <source>E-commerce / Data</source>
+            <translation>E-commerce / Données</translation>
         </message>
         <message>
             <source>Enable connection</source>
@@ -524,8 +568,8 @@
             <translation>Finance</translation>
         </message>
         <message>
-            <source>Finder Tags</source>
-            <translation>Tags du Finder</translation>
+            <source>Finance / Accounting</source>
+            <translation>Finance / Comptabilité</translation>
         </message>
         <message>
             <source>Folder error</source>
@@ -552,6 +596,10 @@
             <translation>Santé</translation>
         </message>
         <message>
+            <source>Health / Compliance</source>
+            <translation>Santé / Conformité</translation>
+        </message>
+        <message>
             <source>History...</source>
             <translation>Historique...</translation>
         </message>
@@ -568,11 +616,15 @@
             <translation>Informatique et intégrations</translation>
         </message>
         <message>
+            <source>IT / Integrations</source>
+            <translation>Informatique / Intégrations</translation>
+        </message>
+        <message>
             <source>If No Rule Matches</source>
             <translation>Si aucune règle ne correspond</translation>
         </message>
         <message>
-            <source>If the Mac sleeps anyway (battery, lid close), transfers will pause and resume automatically on wake.</source>
+            <source>If the computer sleeps anyway (battery, lid close), transfers will pause and resume automatically on wake.</source>
             <translation>Si l'ordinateur se met quand même en veille (batterie, écran rabattu), les transferts sont suspendus puis reprennent automatiquement au réveil.</translation>
         </message>
         <message>
@@ -596,7 +648,7 @@
             <translation>Dernière activité : </translation>
         </message>
         <message>
-            <source>Launch Tarnel when Mac starts</source>
+            <source>Launch Tarnel when you log in</source>
             <translation>Lancer Tarnel à l'ouverture de session</translation>
         </message>
         <message>
@@ -606,6 +658,10 @@
         <message>
             <source>Local Folder</source>
             <translation>Dossier local</translation>
+        </message>
+        <message>
+            <source>Log Folder</source>
+            <translation>Dossier des journaux</translation>
         </message>
         <message>
             <source>Log...</source>
@@ -872,6 +928,10 @@
             <translation>Photographie</translation>
         </message>
         <message>
+            <source>Photos only</source>
+            <translation>Photos uniquement</translation>
+        </message>
+        <message>
             <source>Play sound on download</source>
             <translation>Jouer un son à chaque téléchargement</translation>
         </message>
@@ -905,7 +965,7 @@
         </message>
         <message>
             <source>Preview</source>
-            <translation>Écouter</translation>
+            <translation>Aperçu</translation>
         </message>
         <message>
             <source>Preview:</source>
@@ -914,6 +974,10 @@
         <message>
             <source>Print &amp; Graphics</source>
             <translation>Impression et graphisme</translation>
+        </message>
+        <message>
+            <source>Print / Graphics</source>
+            <translation>Impression / Graphisme</translation>
         </message>
         <message>
             <source>Privacy Policy</source>
@@ -934,6 +998,10 @@
         <message>
             <source>Re-select folder to grant persistent access</source>
             <translation>Sélectionnez à nouveau le dossier pour accorder un accès permanent</translation>
+        </message>
+        <message>
+            <source>Read Me</source>
+            <translation>Lisez-moi</translation>
         </message>
         <message>
             <source>Recommended for critical transfers. May double download time.</source>
@@ -960,6 +1028,10 @@
             <translation>Le chemin distant contient un caractère de contrôle</translation>
         </message>
         <message>
+            <source>Research / Science</source>
+            <translation>Recherche / Science</translation>
+        </message>
+        <message>
             <source>Restart Tarnel to apply the language change.</source>
             <translation>Redémarrez Tarnel pour appliquer le changement de langue.</translation>
         </message>
@@ -969,7 +1041,7 @@
         </message>
         <message>
             <source>Retry Failed</source>
-            <translation>Nouvelle tentative échouée</translation>
+            <translation>Abandonné</translation>
         </message>
         <message>
             <source>Retrying (%lld/%lld)...</source>
@@ -1152,6 +1224,10 @@
             <translation>Connexion TCP</translation>
         </message>
         <message>
+            <source>Tags</source>
+            <translation>Étiquettes</translation>
+        </message>
+        <message>
             <source>Tarnel %1 (build %2)</source>
             <translation>Tarnel %1 (build %2)</translation>
         </message>
@@ -1202,6 +1278,10 @@
         <message>
             <source>The SFTP server's host key has changed since the last connection to %@. This can mean someone is intercepting the connection. If the change is expected (the server was reinstalled or its key replaced), remove the line for %@ from %@ and connect again.</source>
             <translation>La clé d'hôte du serveur SFTP a changé depuis la dernière connexion à %@. Cela peut signifier que quelqu'un intercepte la connexion. Si ce changement est attendu (le serveur a été réinstallé ou sa clé remplacée), supprimez la ligne de %@ dans %@ et reconnectez-vous.</translation>
+        </message>
+        <message>
+            <source>The connection '</source>
+            <translation>La connexion « </translation>
         </message>
         <message>
             <source>This action cannot be undone.</source>
@@ -1262,6 +1342,10 @@
         <message>
             <source>Video</source>
             <translation>Vidéo</translation>
+        </message>
+        <message>
+            <source>Video only</source>
+            <translation>Vidéo uniquement</translation>
         </message>
         <message>
             <source>Waiting...</source>

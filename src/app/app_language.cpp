@@ -10,13 +10,6 @@
 namespace tarnel {
 namespace {
 
-QLocale chosenLocale(const std::filesystem::path& settingsFile) {
-    const QtSettingsStore store(settingsFile);
-    auto code = QString::fromStdString(AppSettings::startupLanguage(store));
-    if (code.isEmpty() || code == QStringLiteral("system")) return QLocale::system();
-    return QLocale(code.replace(QLatin1Char('-'), QLatin1Char('_')));
-}
-
 // The core's texts share the shell's table.
 std::string translated(std::string_view key) {
     return QCoreApplication::translate("tarnel", std::string(key).c_str()).toStdString();
@@ -24,13 +17,26 @@ std::string translated(std::string_view key) {
 
 }  // namespace
 
+QLocale AppLanguage::localeFor(const std::string& code) {
+    if (code.empty() || code == "system") return QLocale::system();
+    return QLocale(QString::fromStdString(code).replace(QLatin1Char('-'), QLatin1Char('_')));
+}
+
+bool AppLanguage::loadOwn(QTranslator& translator, const QLocale& locale) {
+    return translator.load(locale, QStringLiteral("tarnel"), QStringLiteral("_"),
+                           QStringLiteral(":/i18n"));
+}
+
 AppLanguage::AppLanguage(const std::filesystem::path& settingsFile)
-    : locale_(chosenLocale(settingsFile)) {
+    : locale_(localeFor(AppSettings::startupLanguage(QtSettingsStore(settingsFile)))) {
     QLocale::setDefault(locale_);
-    if (own_.load(locale_, QStringLiteral("tarnel"), QStringLiteral("_"), QStringLiteral(":/i18n")))
-        QCoreApplication::installTranslator(&own_);
-    if (qt_.load(locale_, QStringLiteral("qtbase"), QStringLiteral("_"),
-                 QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (loadOwn(own_, locale_)) QCoreApplication::installTranslator(&own_);
+    // Qt has some languages in one variant only (Portuguese as spoken in Brazil): its dialogs
+    // are better in that one than in English.
+    const auto qtFolder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    if (qt_.load(locale_, QStringLiteral("qtbase"), QStringLiteral("_"), qtFolder) ||
+        qt_.load(QLocale(locale_.language()), QStringLiteral("qtbase"), QStringLiteral("_"),
+                 qtFolder))
         QCoreApplication::installTranslator(&qt_);
     setTextLookup(&translated);
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <filesystem>
+#include <string>
+
 #include <QLocale>
 #include <QTranslator>
-#include <filesystem>
 
 namespace tarnel {
 
@@ -18,6 +20,11 @@ public:
     AppLanguage& operator=(const AppLanguage&) = delete;
 
     const QLocale& locale() const { return locale_; }
+
+    // The locale of a language setting ("system", "de", "pt-PT", "zh-Hans").
+    static QLocale localeFor(const std::string& code);
+    // Loads the program's own texts for `locale`, as built into it; false where there are none.
+    static bool loadOwn(QTranslator& translator, const QLocale& locale);
 
 private:
     QLocale locale_;

@@ -20,4 +20,7 @@ std::string localized(std::string_view key);
 // filled in order by `args`.
 std::string localizedFormat(std::string_view key, std::initializer_list<std::string> args);
 
+// Marks an English text for the translation table where the core hands it to `localized` later.
+#define LOCALIZED_TEXT(english) english
+
 }  // namespace tarnel

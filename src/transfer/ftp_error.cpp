@@ -118,7 +118,7 @@ FTPError FTPError::emptyFile(std::string name) {
 
 FTPError FTPError::localFolderNotWritable(std::string path) {
     std::string description =
-        localizedFormat("Cannot write to '%@'. Check folder permissions in Finder > Get Info.", {path});
+        localizedFormat("Cannot write to '%@'. Check the folder's permissions in the file manager.", {path});
     return FTPError(Kind::localFolderNotWritable, 0, std::move(path), std::move(description));
 }
 

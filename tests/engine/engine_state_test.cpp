@@ -133,8 +133,8 @@ TEST_F(EngineStateTest, AFolderThatCannotBeMadeFailsThePollBeforeListing) {
     EXPECT_EQ(server->listings, 0);
     EXPECT_EQ(engine->connectionState()(), ConnectionState::error);
     EXPECT_EQ(engine->statusText()(), "Folder error");
-    EXPECT_TRUE(hasLogLine("ERR [Test] Cannot write to '/proc/version/inbox'. Check folder "
-                           "permissions in Finder > Get Info."));
+    EXPECT_TRUE(hasLogLine("ERR [Test] Cannot write to '/proc/version/inbox'. Check the "
+                           "folder's permissions in the file manager."));
     ASSERT_EQ(notifier.posted.size(), 1u);
     EXPECT_EQ(notifier.posted[0].identifier, "folder-Test");
     EXPECT_FALSE(engine->syncInProgress());

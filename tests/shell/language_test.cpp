@@ -6,7 +6,10 @@
 #include <QLabel>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QDir>
+#include <QRegularExpression>
 #include <QTest>
+#include <QXmlStreamReader>
 #include <algorithm>
 
 #include "app/app_delegate.h"
@@ -14,6 +17,7 @@
 #include "platform/localized.h"
 #include "platform/qt/qt_settings_store.h"
 #include "records/app_settings.h"
+#include "shell/settings/general_settings_tab.h"
 #include "temporary_paths.h"
 
 namespace tarnel {
@@ -111,12 +115,85 @@ TEST(Language, SystemFollowsTheEnvironment) {
 }
 
 TEST(Language, ALanguageWithoutTranslationsStaysInEnglish) {
-    expectLanguage("it", {{QStringLiteral("Add Connection"), QStringLiteral("1 active connection"),
+    expectLanguage("sv", {{QStringLiteral("Add Connection"), QStringLiteral("1 active connection"),
                            QStringLiteral("New Connection")},
                           {QStringLiteral("Tarnel Settings"), QStringLiteral("Notifications")},
                           QStringLiteral("Pause"),
                           QStringLiteral("Paused"),
                           QStringLiteral("Images")});
+}
+
+struct Message {
+    QString source, translation;
+    bool unfinished = false;
+};
+
+std::vector<Message> messagesOf(const QString& tsFile) {
+    QFile file(tsFile);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << tsFile.toStdString();
+    QXmlStreamReader xml(&file);
+    std::vector<Message> messages;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement) continue;
+        if (xml.name() == QStringLiteral("message")) messages.emplace_back();
+        if (xml.name() == QStringLiteral("source")) messages.back().source = xml.readElementText();
+        if (xml.name() == QStringLiteral("translation")) {
+            messages.back().unfinished = xml.attributes().value(QStringLiteral("type")) ==
+                                         QStringLiteral("unfinished");
+            messages.back().translation = xml.readElementText();
+        }
+    }
+    EXPECT_FALSE(xml.hasError()) << tsFile.toStdString() << ": " << xml.errorString().toStdString();
+    return messages;
+}
+
+// The values a text takes, in the order the program hands them over.
+QString placeholdersOf(const QString& text) {
+    static const QRegularExpression placeholder(QStringLiteral(R"(%lld|%d|%@|%\d|\{[a-z]+\})"));
+    QStringList found;
+    for (const auto& match : placeholder.globalMatch(text)) found << match.captured();
+    return found.join(QLatin1Char(' '));
+}
+
+// Every language the picker offers speaks every text of the program: its source is complete and
+// keeps each value in its place, and the program carries it built in.
+TEST(Language, EveryOfferedLanguageIsComplete) {
+    const QDir sources(QStringLiteral(TARNEL_TRANSLATIONS_DIR));
+    // translations/update gives every language the same texts.
+    const auto texts = messagesOf(sources.filePath(QStringLiteral("tarnel_de.ts"))).size();
+    ASSERT_GT(texts, 300u);
+    for (const auto& [code, name] : GeneralSettingsTab::languages()) {
+        if (code == std::string("system") || code == std::string("en")) continue;
+        SCOPED_TRACE(code);
+        QTranslator built;
+        ASSERT_TRUE(AppLanguage::loadOwn(built, AppLanguage::localeFor(code)));
+        const auto tsFile = sources.filePath(QFileInfo(built.filePath()).completeBaseName() +
+                                             QStringLiteral(".ts"));
+        const auto messages = messagesOf(tsFile);
+        EXPECT_EQ(messages.size(), texts) << tsFile.toStdString();
+        for (const auto& message : messages) {
+            SCOPED_TRACE(message.source.toStdString());
+            EXPECT_FALSE(message.unfinished);
+            EXPECT_FALSE(message.translation.trimmed().isEmpty());
+            EXPECT_EQ(placeholdersOf(message.translation), placeholdersOf(message.source));
+            EXPECT_EQ(built.translate("tarnel", message.source.toUtf8().constData()),
+                      message.translation);
+        }
+    }
+}
+
+// Qt's own dialogs (file chooser, standard buttons) speak each offered language too, in the
+// variant Qt has where it lacks the one chosen (Brazil's Portuguese for Portugal's).
+TEST(Language, QtsOwnTextsFollowTheChosenLanguage) {
+    for (const auto& [code, name] : GeneralSettingsTab::languages()) {
+        if (code == std::string("system") || code == std::string("en")) continue;
+        SCOPED_TRACE(code);
+        QTemporaryDir dir;
+        const auto paths = pathsIn(dir);
+        chooseLanguage(paths, code);
+        const AppLanguage language(paths.settingsFile);
+        EXPECT_NE(QCoreApplication::translate("QPlatformTheme", "Cancel").toStdString(), "Cancel");
+    }
 }
 
 }  // namespace

@@ -58,10 +58,10 @@ TEST_F(PopoverViewTest, SettingsTabsActOnTheirSettingsAndShowTheirNotes) {
     GeneralSettingsTab general(settings);
     general.show();
     const auto autostart = dir / "autostart" / "tarnel.desktop";
-    withText<QCheckBox>(general, "Launch Tarnel when Mac starts")->click();
+    withText<QCheckBox>(general, "Launch Tarnel when you log in")->click();
     EXPECT_TRUE(settings.launchAtLogin());
     EXPECT_TRUE(std::filesystem::exists(autostart));
-    withText<QCheckBox>(general, "Launch Tarnel when Mac starts")->click();
+    withText<QCheckBox>(general, "Launch Tarnel when you log in")->click();
     EXPECT_FALSE(std::filesystem::exists(autostart));
 
     const char* restart = "Restart Tarnel to apply the language change.";

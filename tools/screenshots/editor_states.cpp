@@ -25,6 +25,7 @@
 #include <string>
 #include <unistd.h>
 
+#include "app/app_language.h"
 #include "app/app_paths.h"
 #include "app/app_services.h"
 #include "platform/qt/canberra_sound_player.h"
@@ -59,7 +60,9 @@ void scrollTo(ConnectionEditView& editor, QWidget* widget, bool wholeSection = t
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     initShellResources();
-    AppServices services(AppPaths::fromEnvironment(), std::make_unique<CanberraSoundPlayer>());
+    const auto paths = AppPaths::fromEnvironment();
+    const AppLanguage language(paths.settingsFile);  // the one its settings choose, as the program
+    AppServices services(paths, std::make_unique<CanberraSoundPlayer>());
     services.manager().loadConnections();
     const auto& list = services.manager().connections()();
     SettingsWindow window(services.manager(), services.settings(), services.soundPlayer(),

@@ -117,7 +117,7 @@ RoutingRuleEditSheet::RoutingRuleEditSheet(RoutingRule rule, ChoosePath choosePa
         }
     });
 
-    auto* tags = new QFormLayout(group(layout, UI_TEXT("Finder Tags")));
+    auto* tags = new QFormLayout(group(layout, UI_TEXT("Tags")));
     auto* colorRow = new QHBoxLayout;
     for (const auto color : tagColors) {
         auto* button = new QPushButton;

@@ -34,7 +34,7 @@ GeneralSettingsTab::GeneralSettingsTab(AppSettings& settings) {
     };
 
     auto* startup = formSection(form, ui("Startup"));
-    toggle(startup, UI_TEXT("Launch Tarnel when Mac starts"), settings.launchAtLogin, [&settings](bool on) {
+    toggle(startup, UI_TEXT("Launch Tarnel when you log in"), settings.launchAtLogin, [&settings](bool on) {
         settings.setLaunchAtLogin(on);
         settings.applyLaunchAtLogin(on);
     });
@@ -49,8 +49,8 @@ GeneralSettingsTab::GeneralSettingsTab(AppSettings& settings) {
     toggle(sleep, UI_TEXT("Pause and resume on wake"), settings.pauseResumeOnWake,
            [&settings](bool on) { settings.setPauseResumeOnWake(on); });
     noteWhileOn(sleep,
-                UI_TEXT("If the Mac sleeps anyway (battery, lid close), transfers will pause and resume "
-                        "automatically on wake."),
+                UI_TEXT("If the computer sleeps anyway (battery, lid close), transfers will pause "
+                        "and resume automatically on wake."),
                 settings.pauseResumeOnWake);
 
     auto* network = formSection(form, ui("Network"));
