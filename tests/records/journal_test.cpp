@@ -115,7 +115,7 @@ TEST_F(OlderStores, MoveIntoTheJournalOnceWithABackupOfEach) {
 // stores or the journal with all their rows, never part of them, and ends the move then.
 TEST_F(OlderStores, AMigrationKilledHalfWayIsDoneAgainAtTheNextStart) {
     int killedBeforeTheEnd = 0;
-    for (int delayUs : {0, 2'000, 5'000, 10'000, 20'000, 40'000, 80'000}) {
+    for (int delayUs : {0, 5'000, 20'000, 50'000, 80'000, 120'000, 180'000, 250'000}) {
         fs::remove(dir / "journal.db");
         fs::remove(dir / "journal.db-wal");
         fs::remove(dir / "journal.db-shm");
