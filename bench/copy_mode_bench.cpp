@@ -12,6 +12,8 @@
 #include <sstream>
 #include <vector>
 
+#include <unistd.h>
+
 #include "bench_support.h"
 #include "engine/ftp_remote_service.h"
 #include "engine/sync_engine.h"
@@ -59,7 +61,7 @@ int copyMode(int count) {
         std::ofstream(folder / fileName(i)) << "eleven byte";
     NativeServer::handOver(folder.parent_path());
     const std::string below = fs::relative(folder, NativeServer::home()).string();
-    const fs::path scratch = "/dev/shm/tarnel-copy-bench";
+    const fs::path scratch = "/dev/shm/tarnel-copy-bench-" + std::to_string(::getpid());
     fs::remove_all(scratch);
     std::printf("%d files of 11 bytes from vsftpd in copy mode, 4 at a time\n", count);
 
