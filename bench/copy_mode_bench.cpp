@@ -5,7 +5,7 @@
 //     tenth of the files, and the resident memory after it;
 //   - a minute of polls at a 30 s interval over the listing whose files are now all known: its
 //     CPU (the polls' CPU seconds over the 60 s).
-// Usage: copy_mode_bench [count]
+// Usage: copy_mode_bench [count] [tarnel]   (tarnel: the engine alone, for profiling it)
 #include <cstdio>
 #include <fstream>
 #include <iomanip>
@@ -49,7 +49,7 @@ double rate(const std::vector<bench::Clock::time_point>& placed, std::size_t fro
     return double(to - from) / std::chrono::duration<double>(placed[to - 1] - placed[from - 1]).count();
 }
 
-int copyMode(int count) {
+int copyMode(int count, bool withPeer) {
     if (const auto why = NativeServer::unavailable(NativeServerKind::vsftpd)) {
         std::fprintf(stderr, "copy_mode_bench: %s\n", why->c_str());
         return 2;
@@ -66,17 +66,19 @@ int copyMode(int count) {
     std::printf("%d files of 11 bytes from vsftpd in copy mode, 4 at a time\n", count);
 
     auto config = server.connectionConfig();
-    const auto lftpStart = bench::Clock::now();
-    const double lftpCpu = cpuSeconds(RUSAGE_CHILDREN);
-    run({"lftp", "-c",
-         "open ftp://" + config.username + ":" + config.password + "@127.0.0.1:" +
-             std::to_string(config.port) + "/; mirror -P4 '" + below + "' " +
-             (scratch / "lftp").string()});
-    const double lftpSeconds = secondsSince(lftpStart);
-    std::printf("  lftp mirror -P4            %8.2f s  %8.1f files/s  (%zu files, %.2f s CPU)\n",
-                lftpSeconds, countFiles(scratch / "lftp") / lftpSeconds,
-                countFiles(scratch / "lftp"), cpuSeconds(RUSAGE_CHILDREN) - lftpCpu);
-    fs::remove_all(scratch / "lftp");
+    if (withPeer) {
+        const auto lftpStart = bench::Clock::now();
+        const double lftpCpu = cpuSeconds(RUSAGE_CHILDREN);
+        run({"lftp", "-c",
+             "open ftp://" + config.username + ":" + config.password + "@127.0.0.1:" +
+                 std::to_string(config.port) + "/; mirror -P4 '" + below + "' " +
+                 (scratch / "lftp").string()});
+        const double lftpSeconds = secondsSince(lftpStart);
+        std::printf("  lftp mirror -P4            %8.2f s  %8.1f files/s  (%zu files, %.2f s CPU)\n",
+                    lftpSeconds, countFiles(scratch / "lftp") / lftpSeconds,
+                    countFiles(scratch / "lftp"), cpuSeconds(RUSAGE_CHILDREN) - lftpCpu);
+        fs::remove_all(scratch / "lftp");
+    }
 
     WorkerPool workers;
     VirtualLoop loop{&workers};
@@ -158,5 +160,5 @@ int copyMode(int count) {
 int main(int argc, char** argv) {
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     const int count = argc > 1 ? std::atoi(argv[1]) : 20000;
-    return tarnel::copyMode(count > 0 ? count : 20000);
+    return tarnel::copyMode(count > 0 ? count : 20000, argc < 3 || std::string(argv[2]) != "tarnel");
 }

@@ -76,8 +76,10 @@ bool DownloadTracker::isDownloaded(const std::string& trackingKey, std::int64_t 
 }
 
 void DownloadTracker::markDownloaded(const std::string& trackingKey, std::int64_t size) {
-    const auto entry = downloadedKey(trackingKey, size);
+    auto entry = downloadedKey(trackingKey, size);
     journal_->write([&](Journal& j) { insertEntry(j, connectionId_, entry); });
+    // Listed now, so most likely in the next listing too: that poll need not ask the journal.
+    knownInListing_.insert(std::move(entry));
 }
 
 void DownloadTracker::forget(const std::string& trackingKey, std::int64_t size) {

@@ -13,8 +13,9 @@ namespace tarnel {
 // The files one connection has fetched, so that a server that keeps its files does not hand
 // them over twice. Entries are "key|size"; a file that comes back with another size is new.
 // One row per entry in the journal, under the connection's id; owned by its engine, on the main
-// loop. Memory follows the listing, not the past: the entries found known in the latest listing
-// are kept at hand, so that a poll over files all fetched before asks the journal only once.
+// loop. Memory follows the listing, not the past: the entries booked or found known in the
+// latest listing are kept at hand, so that polls over files all fetched before do not ask the
+// journal again; an entry that two listings in a row did not hold is let go of.
 class DownloadTracker {
 public:
     // Moves an older "downloaded_files_" + id settings value into the journal first.

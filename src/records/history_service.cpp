@@ -53,7 +53,7 @@ std::vector<HistoryEntry> decodeStore(const std::string& text) {
 
 void writeRow(Journal& j, const HistoryEntry& e) {
     auto& insert = j.statement(
-        "INSERT OR IGNORE INTO history(id, timestamp, filename, final_filename, size_bytes, "
+        "INSERT INTO history(id, timestamp, filename, final_filename, size_bytes, "
         "source_host, source_path, destination_path, connection_name, status, error_message) "
         "VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11)");
     insert.bind(1, e.id.toString())
@@ -76,11 +76,15 @@ void writeRow(Journal& j, const HistoryEntry& e) {
 void migrate(Journal& journal, const std::filesystem::path& historyFile) {
     migrateStoreFile(journal, historyFile, [](Journal& j, const std::string& text) {
         const auto entries = decodeStore(text);
+        const auto rows = [&] {
+            auto& count = j.statement("SELECT count(*) FROM history");
+            count.step();
+            return count.integer(0);
+        };
+        const auto before = rows();
         for (auto e = entries.rbegin(); e != entries.rend(); ++e)
             writeRow(j, *e);
-        return std::all_of(entries.begin(), entries.end(), [&](const HistoryEntry& e) {
-            return j.statement("SELECT 1 FROM history WHERE id = ?1").bind(1, e.id.toString()).step();
-        });
+        return rows() - before == static_cast<std::int64_t>(entries.size());
     });
 }
 

@@ -31,7 +31,7 @@ CREATE TABLE IF NOT EXISTS partials(
     placed_path TEXT NOT NULL) WITHOUT ROWID;
 CREATE TABLE IF NOT EXISTS history(
     seq INTEGER PRIMARY KEY,
-    id TEXT NOT NULL UNIQUE,
+    id TEXT NOT NULL,
     timestamp REAL NOT NULL,
     filename TEXT NOT NULL,
     final_filename TEXT NOT NULL,
@@ -42,6 +42,8 @@ CREATE TABLE IF NOT EXISTS history(
     connection_name TEXT NOT NULL,
     status TEXT NOT NULL,
     error_message TEXT);
+CREATE TABLE IF NOT EXISTS migrated(
+    store TEXT PRIMARY KEY) WITHOUT ROWID;
 )";
 
 const std::filesystem::path inMemory = ":memory:";

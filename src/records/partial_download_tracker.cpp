@@ -60,14 +60,22 @@ void deleteRow(Journal& j, const std::string& remotePath) {
     j.statement("DELETE FROM partials WHERE remote_path = ?1").bind(1, remotePath).step();
 }
 
-std::map<std::string, PartialDownload> loadRows(Journal& journal) {
+const char* const selectAll =
+    "SELECT remote_path, local_temp_path, expected_size, downloaded_bytes, connection_id, "
+    "started_at, last_resumed_at, resume_attempts, placed_path FROM partials";
+const char* const selectOne =
+    "SELECT remote_path, local_temp_path, expected_size, downloaded_bytes, connection_id, "
+    "started_at, last_resumed_at, resume_attempts, placed_path FROM partials "
+    "WHERE remote_path = ?1";
+
+// The rows whose key is `remotePath`, or all of them when it is empty.
+std::map<std::string, PartialDownload> loadRows(Journal& journal, const std::string& remotePath = {}) {
     std::map<std::string, PartialDownload> partials;
     try {
         journal.read([&](Journal& j) {
-            auto& rows = j.statement(
-                "SELECT remote_path, local_temp_path, expected_size, downloaded_bytes, "
-                "connection_id, started_at, last_resumed_at, resume_attempts, placed_path "
-                "FROM partials");
+            // Two statements: one condition with an OR would scan the table for one key.
+            auto& rows = remotePath.empty() ? j.statement(selectAll)
+                                            : j.statement(selectOne).bind(1, remotePath);
             while (rows.step()) {
                 PartialDownload p{rows.text(0),
                                   rows.text(1),
@@ -165,10 +173,19 @@ void PartialDownloadTracker::record(std::span<const PartialDownload> partials) {
 std::optional<PartialDownload> PartialDownloadTracker::partial(
     const std::string& remotePath) const {
     std::lock_guard lock(mutex_);
-    auto it = partials_.find(remotePath);
-    if (it == partials_.end())
+    return findLocked(remotePath);
+}
+
+std::optional<PartialDownload> PartialDownloadTracker::findLocked(
+    const std::string& remotePath) const {
+    if (auto it = partials_.find(remotePath); it != partials_.end())
+        return it->second;
+    if (remotePath.empty())
         return std::nullopt;
-    return it->second;
+    auto placed = loadRows(*journal_, remotePath);  // a placed file's, kept on disk alone
+    if (placed.empty())
+        return std::nullopt;
+    return std::move(placed.begin()->second);
 }
 
 void PartialDownloadTracker::updateProgress(const std::string& remotePath, std::int64_t bytes) {
@@ -196,11 +213,15 @@ void PartialDownloadTracker::incrementResumeAttempts(const std::string& remotePa
 void PartialDownloadTracker::markPlaced(const std::string& remotePath,
                                         const std::string& placedPath) {
     std::lock_guard lock(mutex_);
-    auto it = partials_.find(remotePath);
-    if (it == partials_.end())
+    auto record = findLocked(remotePath);
+    if (!record)
         return;
-    it->second.placedPath = placedPath;
-    writeLocked({remotePath}, true);
+    record->placedPath = placedPath;
+    // Only a restart reads it from here on: the row stays until remove(), the memory goes now,
+    // so that a batch of many thousand files kept on the server holds none of them.
+    partials_.erase(remotePath);
+    journal_->write([&](Journal& j) { writeRow(j, *record); });
+    journal_->commit();
 }
 
 std::vector<PartialDownload> PartialDownloadTracker::takePlacedByEarlierRun(
@@ -230,30 +251,32 @@ void PartialDownloadTracker::remove(const std::string& remotePath) {
     // Committed with the journal's next commit: a record left by a crash claims a temporary
     // file that is no longer there, which the next transfer of that name drops or replaces.
     std::lock_guard lock(mutex_);
-    if (partials_.erase(remotePath) != 0)
-        writeLocked({remotePath}, false);
+    partials_.erase(remotePath);
+    writeLocked({remotePath}, false);  // also the row of a placed file, which memory lets go of
 }
 
 void PartialDownloadTracker::discard(const std::string& remotePath) {
     std::lock_guard lock(mutex_);
-    auto it = partials_.find(remotePath);
-    if (it == partials_.end())
+    auto record = findLocked(remotePath);
+    if (!record)
         return;
     std::error_code ignored;  // a file that stays is swept as an orphan at the next start
-    std::filesystem::remove(it->second.localTempPath, ignored);
-    partials_.erase(it);
+    std::filesystem::remove(record->localTempPath, ignored);
+    partials_.erase(remotePath);
     writeLocked({remotePath}, true);
 }
 
 void PartialDownloadTracker::removeConnection(const std::string& connectionId) {
     std::lock_guard lock(mutex_);
-    std::vector<std::string> keys;
-    for (const auto& [key, p] : partials_)
-        if (p.connectionId == connectionId)
-            keys.push_back(key);
-    for (const auto& key : keys)
-        partials_.erase(key);
-    writeLocked(keys, false);
+    std::erase_if(partials_, [&](const auto& item) {
+        if (item.second.connectionId != connectionId)
+            return false;
+        heldBack_.erase(item.first);
+        return true;
+    });
+    journal_->write([&](Journal& j) {
+        j.statement("DELETE FROM partials WHERE connection_id = ?1").bind(1, connectionId).step();
+    });
 }
 
 std::unique_ptr<PartialDownloadTracker::WritingClaim> PartialDownloadTracker::claimForWriting(

@@ -97,6 +97,8 @@ private:
     // Called with mutex_ held.
     void writeLocked(const std::vector<std::string>& keys, bool commitNow);
     void writeHeldBackLocked();
+    // The record in memory, or a placed file's on disk.
+    std::optional<PartialDownload> findLocked(const std::string& remotePath) const;
 
     std::shared_ptr<Journal> journal_;
     const Clock& clock_;

@@ -121,8 +121,9 @@ TEST_F(PartialDownloadTrackerTest, TheJournalIsReadableByItsOwnerAloneInAFolderO
     fs::permissions(file.parent_path(), fs::perms(0755));
     PartialDownloadTracker(file, &clock).record(sample("a.zip"));
     for (const char* name : {"journal.db", "journal.db-wal", "journal.db-shm"}) {
-        if (fs::exists(file.parent_path() / name))
+        if (fs::exists(file.parent_path() / name)) {
             EXPECT_EQ(fs::status(file.parent_path() / name).permissions(), fs::perms(0600)) << name;
+        }
     }
     EXPECT_EQ(fs::status(file.parent_path()).permissions(), fs::perms(0700));
 
