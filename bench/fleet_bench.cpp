@@ -21,14 +21,12 @@
 #include <random>
 #include <thread>
 
-#include <fcntl.h>
-#include <spawn.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
 
 #include <QCoreApplication>
 #include <QTimer>
 
+#include "bench_support.h"
 #include "engine/ftp_remote_service.h"
 #include "engine/sync_engine.h"
 #include "connections/connection_config_json.h"
@@ -49,70 +47,19 @@
 #include "transfer/curl_transfer_client.h"
 #include "transfer/ftp_service.h"
 
-extern char** environ;
-
 namespace tarnel {
 namespace {
 
 namespace fs = std::filesystem;
-using Clock = std::chrono::steady_clock;
+using bench::Clock;
+using bench::countFiles;
+using bench::cpuSeconds;
+using bench::residentKiB;
+using bench::run;
+using bench::secondsSince;
+using bench::Silent;
 using testing::ServerProtocol;
 using testing::TestServer;
-
-class Silent final : public Notifier, public SoundPlayer {
-public:
-    void post(const std::string&, const std::string&, const std::string&, bool) override {}
-    void play(const std::string&) override {}
-};
-
-// CPU seconds, user and system, of this process (`who` RUSAGE_SELF) or of the peers it has
-// waited for (RUSAGE_CHILDREN).
-double cpuSeconds(int who = RUSAGE_SELF) {
-    rusage u{};
-    getrusage(who, &u);
-    return u.ru_utime.tv_sec + u.ru_utime.tv_usec / 1e6 + u.ru_stime.tv_sec +
-           u.ru_stime.tv_usec / 1e6;
-}
-
-double secondsSince(Clock::time_point start) {
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-// Runs a peer tool to its end, quietly; its exit code.
-int run(std::vector<std::string> argv) {
-    std::vector<char*> args;
-    for (auto& a : argv)
-        args.push_back(a.data());
-    args.push_back(nullptr);
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, 2, "/tmp/tarnel-bench-peer.err",
-                                     O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    pid_t pid;
-    if (posix_spawnp(&pid, args[0], &actions, nullptr, args.data(), environ) != 0)
-        return -1;
-    posix_spawn_file_actions_destroy(&actions);
-    int status = 0;
-    waitpid(pid, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
-std::string capture(std::vector<std::string> argv) {
-    std::string command;
-    for (auto& a : argv)
-        command += "'" + a + "' ";
-    std::string out;
-    if (FILE* p = popen(command.c_str(), "r")) {
-        char buffer[256];
-        while (fgets(buffer, sizeof buffer, p))
-            out += buffer;
-        pclose(p);
-    }
-    while (!out.empty() && (out.back() == '\n'))
-        out.pop_back();
-    return out;
-}
 
 // Each small-file run leaves a socket in TIME_WAIT for every data connection, and the server's
 // passive-mode binds slow down while thousands remain: each contender starts once they are gone.
@@ -143,17 +90,6 @@ void fill(const fs::path& root, int count, std::size_t size) {
     }
 }
 
-// Files that arrived below `root`; none when a contender failed to make it.
-std::size_t countFiles(const fs::path& root) {
-    std::size_t n = 0;
-    std::error_code ec;
-    for (auto it = fs::recursive_directory_iterator(root, ec);
-         !ec && it != fs::recursive_directory_iterator(); it.increment(ec))
-        if (it->is_regular_file())
-            ++n;
-    return n;
-}
-
 // Everything an engine needs, on a loop that runs worker jobs for real.
 struct Bench {
     // tmpfs: on this machine ext4 inode allocation slows with every create and delete, which
@@ -180,7 +116,7 @@ struct Bench {
         auto service = std::make_unique<FTPService>(config, log, std::move(client));
         auto engine = std::make_shared<SyncEngine>(
             config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
-            std::make_unique<DownloadTracker>(store, config.id.toString()),
+            std::make_unique<DownloadTracker>(partials.journal(), store, config.id.toString()),
             EngineServices{runtime, log, stats, history, settings, partials, notifications, sleep,
                            silent});
         const auto start = Clock::now();
@@ -206,7 +142,7 @@ std::string peerUrl(const ConnectionConfig& c) {
 }
 
 std::string rcloneRemote(const ConnectionConfig& c) {
-    const std::string obscured = capture({"rclone", "obscure", c.password});
+    const std::string obscured = bench::capture({"rclone", "obscure", c.password});
     return std::string(c.transferProtocol == TransferProtocol::sftp ? ":sftp" : ":ftp") +
            ",host=127.0.0.1,port=" + std::to_string(c.port) + ",user=" + c.username +
            ",pass=" + obscured + ":";
@@ -400,14 +336,6 @@ int largeFile(ServerProtocol protocol, std::size_t mib) {
            bytes, cpuSeconds() - cpu);
     fs::remove_all(bench.dir);
     return 0;
-}
-
-long residentKiB() {
-    std::ifstream status("/proc/self/status");
-    for (std::string line; std::getline(status, line);)
-        if (line.starts_with("VmRSS:"))
-            return std::stol(line.substr(6));
-    return -1;
 }
 
 int idleFleet(int connections, int seconds) {

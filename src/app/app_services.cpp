@@ -16,7 +16,12 @@ AppServices::AppServices(const AppPaths& paths, std::unique_ptr<SoundPlayer> sou
       settings_(settingsStore_, paths.autostartFile),
       logService_(loop_, clock_, paths.logFile),
       statsService_(settingsStore_, clock_),
-      historyService_(loop_, paths.historyFile),
+      // Beside the stores it replaces; an unreadable one is reported in the log and set aside.
+      journal_(Journal::open(paths.historyFile.parent_path() / "journal.db",
+                             [this](const std::string& problem) {
+                                 logService_.log(problem, LogLevel::error);
+                             })),
+      historyService_(loop_, journal_, paths.historyFile),
       notifier_(std::make_unique<DBusNotifier>()),
       notifications_(settings_, *notifier_),
       sleepMonitor_(std::make_unique<LogindSleepMonitor>()),
@@ -30,7 +35,7 @@ AppServices::AppServices(const AppPaths& paths, std::unique_ptr<SoundPlayer> sou
     manager_ = std::make_shared<ConnectionsManager>(FleetServices{
         runtime_, settingsStore_, settings_, logService_, statsService_, historyService_,
         notifications_, *sleepMonitor_, *soundPlayer_, paths.partialsFile, paths.knownHostsFile,
-        networkMonitor_.get(), sleepInhibitor_.get(), keyring_.get()});
+        networkMonitor_.get(), sleepInhibitor_.get(), keyring_.get(), journal_});
 }
 
 AppServices::~AppServices() = default;

@@ -19,6 +19,7 @@
 #include "platform/worker_pool.h"
 #include "records/app_settings.h"
 #include "records/history_service.h"
+#include "records/journal.h"
 #include "records/log_service.h"
 #include "records/notification_service.h"
 #include "records/stats_service.h"
@@ -59,6 +60,7 @@ private:
     AppSettings settings_;
     LogService logService_;
     StatsService statsService_;
+    std::shared_ptr<Journal> journal_;
     HistoryService historyService_;
     std::unique_ptr<Notifier> notifier_;
     NotificationService notifications_;

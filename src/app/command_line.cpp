@@ -56,7 +56,8 @@ With no option it starts its tray application; a second launch shows the running
 
 Stores (set the XDG variables to keep a run apart):
   $XDG_CONFIG_HOME/Tarnel/Tarnel.conf     settings and connections
-  $XDG_DATA_HOME/Tarnel/                  history.json, partials.json, known_hosts
+  $XDG_DATA_HOME/Tarnel/                  journal.db (downloaded files, partial downloads,
+                                          history), known_hosts
   $XDG_STATE_HOME/Tarnel/Tarnel.log       the log (Tarnel.log.1 the one before, from 10 MB)
 )";
 }

@@ -289,6 +289,7 @@ std::vector<TrackedFile> SyncEngine::updateStability(const std::vector<FTPFileEn
     std::unordered_set<std::string> listed;
     for (const auto& e : entries) listed.insert(trackingKey(e.name, e.relativePath));
     std::erase_if(trackedFiles_, [&](const auto& kv) { return !listed.contains(kv.first); });
+    downloadTracker_->newListing();
 
     const auto now = services_.runtime.clock.now();
     for (const auto& e : entries) {

@@ -6,6 +6,7 @@
 #include "connections/routing_rule.h"
 #include "fleet/connections_manager.h"
 #include "platform/localized.h"
+#include "records/download_tracker.h"
 #include "records/log_service.h"
 #include "records/partial_download_tracker.h"
 
@@ -63,6 +64,8 @@ void ConnectionsManager::removeConnection(const Uuid& id) {
             store.remove(BookmarkManager::ruleBookmarkKey(rule.id));
         }
     downloadTrackers_.erase(id);
+    DownloadTracker::forgetConnection(*partialTracker_->journal(), id.toString());
+    partialTracker_->removeConnection(id.toString());
     auto list = connections_();
     std::erase_if(list, [&](auto& c) { return c.id == id; });
     connections_.set(std::move(list));

@@ -32,7 +32,10 @@ int severity(ConnectionState s) {
 ConnectionsManager::ConnectionsManager(FleetServices services, RemoteFactory makeRemote)
     : services_(std::move(services)),
       makeRemote_(std::move(makeRemote)),
-      partialTracker_(std::make_unique<PartialDownloadTracker>(services_.partialsFile)),
+      partialTracker_(services_.journal ? std::make_unique<PartialDownloadTracker>(
+                                              services_.journal, services_.partialsFile)
+                                        : std::make_unique<PartialDownloadTracker>(
+                                              services_.partialsFile)),
       engineServices_{services_.runtime,        services_.logService,
                       services_.statsService,   services_.historyService,
                       services_.globalSettings, *partialTracker_,
@@ -139,7 +142,8 @@ void ConnectionsManager::createEngine(const ConnectionConfig& config, bool start
     // its last transfers where the new one looks.
     auto& tracker = downloadTrackers_[config.id];
     if (!tracker)
-        tracker = std::make_shared<DownloadTracker>(services_.settingsStore, config.id.toString());
+        tracker = std::make_shared<DownloadTracker>(partialTracker_->journal(),
+                                                    services_.settingsStore, config.id.toString());
     auto engine = std::make_shared<SyncEngine>(config, makeRemote_(config), tracker,
                                                engineServices_);
     engine->setConnectionsManager(std::weak_ptr<FleetLink>(weak_from_this()));

@@ -25,6 +25,7 @@
 
 namespace tarnel {
 
+class Journal;
 class PartialDownloadTracker;
 
 // What the fleet is built from: the shared services and where its own stores live.
@@ -46,6 +47,9 @@ struct FleetServices {
     SleepInhibitor* sleepInhibitor = nullptr;
     // The desktop's keyring; without one, passwords stay in the settings file.
     Keyring* keyring = nullptr;
+    // The journal of downloaded files and partial records; without one, "journal.db" beside
+    // `partialsFile`.
+    std::shared_ptr<Journal> journal;
 };
 
 // Makes the remote an engine talks to. The program's default speaks libcurl; tests may serve

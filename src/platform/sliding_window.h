@@ -77,8 +77,9 @@ Task<std::vector<R>> slidingWindow(MainLoop& loop, std::vector<Item> items, int 
     limit = std::max(limit, 1);
     detail::WindowState<R> state;
     state.loop = &loop;
+    // The children under way: an ended one's frame goes at the next change, so that a batch of
+    // many thousand files holds no more frames than the window is wide.
     std::vector<Task<void>> children;
-    children.reserve(items.size());
     std::size_t next = 0;
 
     struct NextChange {
@@ -103,6 +104,7 @@ Task<std::vector<R>> slidingWindow(MainLoop& loop, std::vector<Item> items, int 
             children.back().startDetachedFrom({});
         }
         if (state.alive > 0) co_await NextChange{state};
+        std::erase_if(children, [](const Task<void>& child) { return child.done(); });
     }
     if (state.error) std::rethrow_exception(state.error);
     co_return std::move(state.results);

@@ -1,30 +1,108 @@
 #include "records/download_tracker.h"
 
-#include <vector>
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+#include "records/atomic_file.h"
+#include "records/store_migration.h"
 
 namespace tarnel {
 
-DownloadTracker::DownloadTracker(SettingsStore& store, std::string connectionId)
-    : store_(store), key_("downloaded_files_" + connectionId) {
-    if (auto stored = store_.stringListValue(key_))
-        downloaded_.insert(stored->begin(), stored->end());
+namespace {
+
+void insertEntry(Journal& j, const std::string& connectionId, const std::string& entry) {
+    j.statement("INSERT OR IGNORE INTO downloaded(connection_id, entry) VALUES(?1, ?2)")
+        .bind(1, connectionId)
+        .bind(2, entry)
+        .step();
+}
+
+bool hasEntry(Journal& j, const std::string& connectionId, const std::string& entry) {
+    return j.statement("SELECT 1 FROM downloaded WHERE connection_id = ?1 AND entry = ?2")
+        .bind(1, connectionId)
+        .bind(2, entry)
+        .step();
+}
+
+// The settings value of older versions, moved into the journal all or nothing; it leaves the
+// settings only once its backup (a file of its name beside the journal) is written. Done again
+// at the next start if anything fails on the way.
+void migrateDownloadedSet(Journal& journal, SettingsStore& store, const std::string& connectionId) {
+    const std::string key = "downloaded_files_" + connectionId;
+    const auto entries = store.stringListValue(key);
+    if (!entries)
+        return;
+    const bool moved = journal.transaction([&](Journal& j) {
+        for (const auto& entry : *entries)
+            insertEntry(j, connectionId, entry);
+        return std::all_of(entries->begin(), entries->end(),
+                           [&](const auto& entry) { return hasEntry(j, connectionId, entry); });
+    });
+    if (moved && replaceFileAtomically(migratedBackup(journal.file().parent_path() / key),
+                                       nlohmann::json(*entries).dump()))
+        store.remove(key);
+}
+
+}  // namespace
+
+DownloadTracker::DownloadTracker(std::shared_ptr<Journal> journal, SettingsStore& store,
+                                 std::string connectionId)
+    : journal_(std::move(journal)), connectionId_(std::move(connectionId)) {
+    migrateDownloadedSet(*journal_, store, connectionId_);
 }
 
 std::string DownloadTracker::downloadedKey(const std::string& trackingKey, std::int64_t size) {
     return trackingKey + "|" + std::to_string(size);
 }
 
+bool DownloadTracker::isDownloaded(const std::string& trackingKey, std::int64_t size) const {
+    auto entry = downloadedKey(trackingKey, size);
+    if (knownInListing_.contains(entry))
+        return true;
+    if (auto node = knownInLastListing_.extract(entry)) {
+        knownInListing_.insert(std::move(node));
+        return true;
+    }
+    bool known = false;
+    try {
+        known = journal_->read([&](Journal& j) { return hasEntry(j, connectionId_, entry); });
+    } catch (const JournalError&) {
+        // Unreadable for now: the file waits, as a growing one would, rather than come twice.
+        return true;
+    }
+    if (known)
+        knownInListing_.insert(std::move(entry));
+    return known;
+}
+
 void DownloadTracker::markDownloaded(const std::string& trackingKey, std::int64_t size) {
-    downloaded_.insert(downloadedKey(trackingKey, size));
-    store();
+    auto entry = downloadedKey(trackingKey, size);
+    journal_->write([&](Journal& j) { insertEntry(j, connectionId_, entry); });
+    // Listed now, so most likely in the next listing too: that poll need not ask the journal.
+    knownInListing_.insert(std::move(entry));
 }
 
 void DownloadTracker::forget(const std::string& trackingKey, std::int64_t size) {
-    if (downloaded_.erase(downloadedKey(trackingKey, size)) != 0) store();
+    auto entry = downloadedKey(trackingKey, size);
+    knownInListing_.erase(entry);
+    knownInLastListing_.erase(entry);
+    journal_->write([&](Journal& j) {
+        j.statement("DELETE FROM downloaded WHERE connection_id = ?1 AND entry = ?2")
+            .bind(1, connectionId_)
+            .bind(2, entry)
+            .step();
+    });
 }
 
-void DownloadTracker::store() {
-    store_.setValue(key_, std::vector<std::string>(downloaded_.begin(), downloaded_.end()));
+void DownloadTracker::newListing() {
+    knownInLastListing_ = std::move(knownInListing_);
+    knownInListing_.clear();
+}
+
+void DownloadTracker::forgetConnection(Journal& journal, const std::string& connectionId) {
+    journal.write([&](Journal& j) {
+        j.statement("DELETE FROM downloaded WHERE connection_id = ?1").bind(1, connectionId).step();
+    });
 }
 
 }  // namespace tarnel

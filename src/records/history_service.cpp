@@ -7,28 +7,11 @@
 #include <stdexcept>
 
 #include "platform/localized.h"
-#include "platform/private_folder.h"
-#include "records/atomic_file.h"
+#include "records/store_migration.h"
 
 namespace tarnel {
 
 namespace {
-
-nlohmann::json toJson(const HistoryEntry& e) {
-    nlohmann::json j = {{"id", e.id.toString()},
-                        {"timestamp", toReferenceSeconds(e.timestamp)},
-                        {"filename", e.filename},
-                        {"finalFilename", e.finalFilename},
-                        {"sizeBytes", e.sizeBytes},
-                        {"sourceHost", e.sourceHost},
-                        {"sourcePath", e.sourcePath},
-                        {"destinationPath", e.destinationPath},
-                        {"connectionName", e.connectionName},
-                        {"status", rawValue(e.status)}};
-    if (e.errorMessage)
-        j["errorMessage"] = *e.errorMessage;
-    return j;
-}
 
 struct BadEntry : std::runtime_error {
     using std::runtime_error::runtime_error;
@@ -55,21 +38,85 @@ HistoryEntry fromJson(const nlohmann::json& j) {
     return e;
 }
 
-// An unreadable file gives an empty history; it stays on disk until the next save replaces it.
-std::deque<HistoryEntry> load(const std::filesystem::path& file) {
-    std::deque<HistoryEntry> entries;
-    auto text = readWholeFile(file);
-    if (!text)
-        return entries;
+// The entries of an older "history.json", newest first; one that does not read gives none, as
+// it always has.
+std::vector<HistoryEntry> decodeStore(const std::string& text) {
+    std::vector<HistoryEntry> entries;
     try {
-        for (const auto& item : nlohmann::json::parse(*text)) {
-            if (entries.size() == HistoryService::maxEntries)
-                break;
+        for (const auto& item : nlohmann::json::parse(text))
             entries.push_back(fromJson(item));
-        }
     } catch (const std::exception&) {
         entries.clear();
     }
+    return entries;
+}
+
+void writeRow(Journal& j, const HistoryEntry& e) {
+    auto& insert = j.statement(
+        "INSERT INTO history(id, timestamp, filename, final_filename, size_bytes, "
+        "source_host, source_path, destination_path, connection_name, status, error_message) "
+        "VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11)");
+    insert.bind(1, e.id.toString())
+        .bind(2, toReferenceSeconds(e.timestamp))
+        .bind(3, e.filename)
+        .bind(4, e.finalFilename)
+        .bind(5, e.sizeBytes)
+        .bind(6, e.sourceHost)
+        .bind(7, e.sourcePath)
+        .bind(8, e.destinationPath)
+        .bind(9, e.connectionName)
+        .bind(10, std::string_view(rawValue(e.status)));
+    if (e.errorMessage)
+        insert.bind(11, *e.errorMessage);
+    insert.step();
+}
+
+// Moves an older "history.json" into the journal, the oldest entry first so that the order of
+// the rows stays the order of the list.
+void migrate(Journal& journal, const std::filesystem::path& historyFile) {
+    migrateStoreFile(journal, historyFile, [](Journal& j, const std::string& text) {
+        const auto entries = decodeStore(text);
+        const auto rows = [&] {
+            auto& count = j.statement("SELECT count(*) FROM history");
+            count.step();
+            return count.integer(0);
+        };
+        const auto before = rows();
+        for (auto e = entries.rbegin(); e != entries.rend(); ++e)
+            writeRow(j, *e);
+        return rows() - before == static_cast<std::int64_t>(entries.size());
+    });
+}
+
+// The newest entries, after dropping those beyond them that are older than the journal keeps.
+std::deque<HistoryEntry> load(Journal& journal) {
+    std::deque<HistoryEntry> entries;
+    journal.write([&](Journal& j) {
+        const auto oldest = toReferenceSeconds(std::chrono::system_clock::now() - HistoryService::keptFor);
+        // The list's 500 stay whatever their age.
+        j.statement(
+             "DELETE FROM history WHERE timestamp < ?1 AND seq < (SELECT min(seq) FROM "
+             "(SELECT seq FROM history ORDER BY seq DESC LIMIT ?2))")
+            .bind(1, oldest)
+            .bind(2, static_cast<std::int64_t>(HistoryService::maxEntries))
+            .step();
+        auto& rows = j.statement(
+            "SELECT id, timestamp, filename, final_filename, size_bytes, source_host, "
+            "source_path, destination_path, connection_name, status, error_message "
+            "FROM history ORDER BY seq DESC LIMIT ?1");
+        rows.bind(1, static_cast<std::int64_t>(HistoryService::maxEntries));
+        while (rows.step()) {
+            auto id = Uuid::parse(rows.text(0));
+            auto status = transferStatusFromRaw(rows.text(9));
+            if (!id || !status)
+                continue;
+            entries.push_back({*id, fromReferenceSeconds(rows.real(1)), rows.text(2), rows.text(3),
+                               rows.integer(4), rows.text(5), rows.text(6), rows.text(7),
+                               rows.text(8), *status,
+                               rows.isNull(10) ? std::nullopt
+                                               : std::optional<std::string>(rows.text(10))});
+        }
+    });
     return entries;
 }
 
@@ -112,90 +159,37 @@ std::string displayText(TransferStatus status) {
     return localized("Error");
 }
 
-HistoryService::HistoryService(MainLoop& loop, std::filesystem::path historyFile)
-    : loop_(loop), file_(std::move(historyFile)), entries_(load(file_)) {
-    makePrivateFolder(file_.parent_path());  // what the user fetched, for the user alone
-    for (const auto& e : entries_.value())
-        encoded_.push_back(toJson(e).dump());
+HistoryService::HistoryService(MainLoop& loop, std::shared_ptr<Journal> journal,
+                               const std::filesystem::path& historyFile)
+    : loop_(loop), journal_(std::move(journal)) {
+    migrate(*journal_, historyFile);
+    entries_.set(load(*journal_));
 }
 
+HistoryService::HistoryService(MainLoop& loop, const std::filesystem::path& historyFile)
+    : HistoryService(loop, Journal::open(historyFile.parent_path() / "journal.db"), historyFile) {}
+
 void HistoryService::add(HistoryEntry entry) {
+    // The row is queued at once, from the calling thread: a flush() on the loop takes it along
+    // even while the list has yet to show it.
+    journal_->writeLater([entry](Journal& j) { writeRow(j, entry); });
     loop_.post([this, entry = std::move(entry)]() mutable {
-        {
-            std::lock_guard lock(encodedMutex_);
-            encoded_.push_front(toJson(entry).dump());
-            if (encoded_.size() > maxEntries)
-                encoded_.pop_back();
-        }
         entries_.update([&](std::deque<HistoryEntry>& list) {
             list.push_front(std::move(entry));
             if (list.size() > maxEntries)
                 list.pop_back();
         });
-        save();
     });
 }
 
 void HistoryService::clear() {
-    loop_.post([this] {
-        {
-            std::lock_guard lock(encodedMutex_);
-            encoded_.clear();
-        }
-        entries_.set({});
-        save();
-    });
-}
-
-HistoryService::~HistoryService() {
-    if (heldBack_) queueWrite();
+    // In the order of the calls, as add() queues its rows.
+    journal_->writeLater([](Journal& j) { j.execute("DELETE FROM history"); });
+    loop_.post([this] { entries_.set({}); });
 }
 
 void HistoryService::flush() {
-    if (heldBack_) {
-        heldBack_ = false;
-        queueWrite();
-    }
-    queue_.drain();
-}
-
-void HistoryService::save() {
-    if (pacing_) {
-        heldBack_ = true;
-        return;
-    }
-    queueWrite();
-    pacing_ = loop_.startTimer(writeInterval, false, [this] {
-        auto ended = std::move(pacing_);  // destroyed on leaving: the callback may not outlive it
-        if (heldBack_) {
-            heldBack_ = false;
-            save();
-        }
-    });
-}
-
-void HistoryService::queueWrite() {
-    std::lock_guard lock(encodedMutex_);
-    if (writeQueued_)
-        return;  // the write in the queue takes this change too
-    writeQueued_ = true;
-    queue_.async([this] { write(); });
-}
-
-void HistoryService::write() {
-    // Each entry was encoded once, when it came: a write costs the joining of the list.
-    std::string text = "[";
-    {
-        std::lock_guard lock(encodedMutex_);
-        writeQueued_ = false;
-        for (const auto& e : encoded_) {
-            if (text.size() > 1)
-                text += ',';
-            text += e;
-        }
-    }
-    text += ']';
-    replaceFileAtomically(file_, text);
+    journal_->flush();
 }
 
 bool HistoryService::matches(const HistoryEntry& entry, const std::string& text,

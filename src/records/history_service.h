@@ -1,10 +1,10 @@
 #pragma once
 
-#include <deque>
+#include <chrono>
 #include <cstdint>
+#include <deque>
 #include <filesystem>
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,8 +12,8 @@
 #include "platform/clock.h"
 #include "platform/main_loop.h"
 #include "platform/observable.h"
-#include "platform/serial_queue.h"
 #include "platform/uuid.h"
+#include "records/journal.h"
 
 namespace tarnel {
 
@@ -41,21 +41,24 @@ struct HistoryEntry {
     bool operator==(const HistoryEntry&) const = default;
 };
 
-// The last 500 transfers, good and bad, newest first, kept in "history.json" for the history
-// window. The list lives on the main loop; its own writer thread replaces the file after a
-// change, at most once per `writeInterval`: a burst of small files costs a few writes of the
-// whole list, not one each.
+// The last 500 transfers, good and bad, newest first, for the history window. The list lives
+// on the main loop; each entry is also a row of the journal, written by the journal's writer
+// thread: an entry costs a row, not a rewrite. The journal keeps entries beyond the 500 for
+// `keptFor`, then drops them when the program starts.
 class HistoryService {
 public:
     static constexpr std::size_t maxEntries = 500;
-    static constexpr Duration writeInterval{250};
+    static constexpr std::chrono::hours keptFor{24 * 365};
 
-    HistoryService(MainLoop& loop, std::filesystem::path historyFile);
-    ~HistoryService();  // writes a change that pacing held back
+    // `historyFile` is the store of older versions, moved into the journal at the first start.
+    HistoryService(MainLoop& loop, std::shared_ptr<Journal> journal,
+                   const std::filesystem::path& historyFile);
+    // With the journal "journal.db" beside `historyFile`.
+    HistoryService(MainLoop& loop, const std::filesystem::path& historyFile);
 
     // Callable from any thread.
     void add(HistoryEntry entry);
-    // Empties the list; the file then holds an empty array.
+    // Empties the list and the journal's history.
     void clear();
 
     // A deque: each new entry goes in front without moving the 500 behind it.
@@ -68,25 +71,13 @@ public:
     std::vector<HistoryEntry> filtered(const std::string& text,
                                        std::optional<TransferStatus> status) const;
 
-    // Waits until every change made on the loop so far is in the file. Call on the loop.
+    // Waits until every change made on the loop so far is committed. Call on the loop.
     void flush();
 
 private:
-    // On the loop: has the list written now, or when the interval since the last write ends.
-    void save();
-    void queueWrite();
-    // On the writer thread.
-    void write();
-
     MainLoop& loop_;
-    std::filesystem::path file_;
+    std::shared_ptr<Journal> journal_;
     Observable<std::deque<HistoryEntry>> entries_;
-    std::mutex encodedMutex_;
-    std::deque<std::string> encoded_;  // the entries' JSON, in the same order
-    bool writeQueued_ = false;
-    std::unique_ptr<Timer> pacing_;  // while set, changes wait for it
-    bool heldBack_ = false;          // a change waits for the pacing timer
-    SerialQueue queue_;  // last: its thread stops before the members its jobs use go
 };
 
 }  // namespace tarnel

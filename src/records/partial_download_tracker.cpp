@@ -1,30 +1,16 @@
 #include "records/partial_download_tracker.h"
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <system_error>
 
-#include "platform/private_folder.h"
-#include "records/atomic_file.h"
+#include "records/store_migration.h"
 
 namespace tarnel {
 
 namespace {
 
 const SystemClock wallClock;
-
-// Written by hand rather than built as a JSON object: a record is encoded before each download
-// starts, and the object form costs more than the write itself.
-std::string encodedRecord(const PartialDownload& p) {
-    const auto text = [](const std::string& s) { return nlohmann::json(s).dump(); };
-    const auto seconds = [](TimePoint t) { return nlohmann::json(toReferenceSeconds(t)).dump(); };
-    return "{\"remotePath\":" + text(p.remotePath) + ",\"localTempPath\":" + text(p.localTempPath) +
-           ",\"expectedSize\":" + std::to_string(p.expectedSize) +
-           ",\"downloadedBytes\":" + std::to_string(p.downloadedBytes) +
-           ",\"connectionId\":" + text(p.connectionId) + ",\"startedAt\":" + seconds(p.startedAt) +
-           ",\"lastResumedAt\":" + seconds(p.lastResumedAt) +
-           ",\"resumeAttempts\":" + std::to_string(p.resumeAttempts) +
-           ",\"placedPath\":" + text(p.placedPath) + "}";
-}
 
 // Every key but placedPath is required: a record that lacks one makes the whole file unreadable.
 PartialDownload fromJson(const nlohmann::json& j) {
@@ -41,35 +27,105 @@ PartialDownload fromJson(const nlohmann::json& j) {
     return p;
 }
 
-std::map<std::string, PartialDownload> load(const std::filesystem::path& file) {
-    std::map<std::string, PartialDownload> partials;
-    auto text = readWholeFile(file);
-    if (!text)
-        return partials;
+// The records of an older "partials.json"; one that does not read gives none, as it always has.
+std::vector<PartialDownload> decodeStore(const std::string& text) {
+    std::vector<PartialDownload> partials;
     try {
-        for (const auto& item : nlohmann::json::parse(*text)) {
-            auto p = fromJson(item);
-            partials.insert_or_assign(p.remotePath, std::move(p));
-        }
+        for (const auto& item : nlohmann::json::parse(text))
+            partials.push_back(fromJson(item));
     } catch (const nlohmann::json::exception&) {
-        partials.clear();  // unreadable: start empty, the next save replaces the file
+        partials.clear();
     }
     return partials;
 }
 
+void writeRow(Journal& j, const PartialDownload& p) {
+    j.statement(
+         "INSERT OR REPLACE INTO partials(remote_path, local_temp_path, expected_size, "
+         "downloaded_bytes, connection_id, started_at, last_resumed_at, resume_attempts, "
+         "placed_path) VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9)")
+        .bind(1, p.remotePath)
+        .bind(2, p.localTempPath)
+        .bind(3, p.expectedSize)
+        .bind(4, p.downloadedBytes)
+        .bind(5, p.connectionId)
+        .bind(6, toReferenceSeconds(p.startedAt))
+        .bind(7, toReferenceSeconds(p.lastResumedAt))
+        .bind(8, std::int64_t{p.resumeAttempts})
+        .bind(9, p.placedPath)
+        .step();
+}
+
+void deleteRow(Journal& j, const std::string& remotePath) {
+    j.statement("DELETE FROM partials WHERE remote_path = ?1").bind(1, remotePath).step();
+}
+
+const char* const selectAll =
+    "SELECT remote_path, local_temp_path, expected_size, downloaded_bytes, connection_id, "
+    "started_at, last_resumed_at, resume_attempts, placed_path FROM partials";
+const char* const selectOne =
+    "SELECT remote_path, local_temp_path, expected_size, downloaded_bytes, connection_id, "
+    "started_at, last_resumed_at, resume_attempts, placed_path FROM partials "
+    "WHERE remote_path = ?1";
+
+// The rows whose key is `remotePath`, or all of them when it is empty.
+std::map<std::string, PartialDownload> loadRows(Journal& journal, const std::string& remotePath = {}) {
+    std::map<std::string, PartialDownload> partials;
+    try {
+        journal.read([&](Journal& j) {
+            // Two statements: one condition with an OR would scan the table for one key.
+            auto& rows = remotePath.empty() ? j.statement(selectAll)
+                                            : j.statement(selectOne).bind(1, remotePath);
+            while (rows.step()) {
+                PartialDownload p{rows.text(0),
+                                  rows.text(1),
+                                  rows.integer(2),
+                                  rows.integer(3),
+                                  rows.text(4),
+                                  fromReferenceSeconds(rows.real(5)),
+                                  fromReferenceSeconds(rows.real(6)),
+                                  static_cast<int>(rows.integer(7)),
+                                  rows.text(8)};
+                partials.emplace(p.remotePath, std::move(p));
+            }
+        });
+    } catch (const JournalError&) {
+        partials.clear();
+    }
+    return partials;
+}
+
+// Moves the records of an older "partials.json" into the journal.
+void migrate(Journal& journal, const std::filesystem::path& partialsFile) {
+    migrateStoreFile(journal, partialsFile, [](Journal& j, const std::string& text) {
+        const auto partials = decodeStore(text);
+        for (const auto& p : partials)
+            writeRow(j, p);
+        return std::all_of(partials.begin(), partials.end(), [&](const PartialDownload& p) {
+            return j.statement("SELECT 1 FROM partials WHERE remote_path = ?1")
+                .bind(1, p.remotePath)
+                .step();
+        });
+    });
+}
+
 }  // namespace
 
-PartialDownloadTracker::PartialDownloadTracker(std::filesystem::path partialsFile,
+PartialDownloadTracker::PartialDownloadTracker(std::shared_ptr<Journal> journal,
+                                               const std::filesystem::path& partialsFile,
                                                const Clock* clock)
-    : file_(std::move(partialsFile)),
-      clock_(clock ? *clock : wallClock),
-      partials_(load(file_)),
-      lastWrite_(clock_.now()) {
-    makePrivateFolder(file_.parent_path());  // the records name the user's files and folders
+    : journal_(std::move(journal)), clock_(clock ? *clock : wallClock), lastWrite_(clock_.now()) {
+    migrate(*journal_, partialsFile);
+    partials_ = loadRows(*journal_);
     for (const auto& [key, p] : partials_)
         if (!p.placedPath.empty())
             placedByEarlierRun_.insert(key);
 }
+
+PartialDownloadTracker::PartialDownloadTracker(const std::filesystem::path& partialsFile,
+                                               const Clock* clock)
+    : PartialDownloadTracker(Journal::open(partialsFile.parent_path() / "journal.db"),
+                             partialsFile, clock) {}
 
 PartialDownloadTracker::~PartialDownloadTracker() {
     flush();
@@ -78,78 +134,58 @@ PartialDownloadTracker::~PartialDownloadTracker() {
 void PartialDownloadTracker::flush() {
     {
         std::lock_guard lock(mutex_);
-        if (unsaved_)
-            saveLocked();
+        writeHeldBackLocked();
     }
-    queue_.drain();
+    journal_->flush();
 }
 
-void PartialDownloadTracker::saveLocked() {
-    lastWrite_ = clock_.now();
-    unsaved_ = false;
-    // One paced write in the queue at a time, which takes the records as they are when it runs.
-    if (writeQueued_)
-        return;
-    writeQueued_ = true;
-    queue_.async([this] {
-        std::lock_guard write(writeMutex_);
-        writeNow();
-    });
-}
-
-void PartialDownloadTracker::writeNow() {
-    std::string text;
-    {
-        std::lock_guard lock(mutex_);
-        writeQueued_ = false;
-        // Only records that changed since the last write are encoded again.
-        std::map<std::string, std::string> encoded;
-        text = "[";
-        for (const auto& [key, p] : partials_) {
-            auto known = encoded_.find(key);
-            auto& json = encoded[key] =
-                known != encoded_.end() ? std::move(known->second) : encodedRecord(p);
-            if (text.size() > 1)
-                text += ',';
-            text += json;
+void PartialDownloadTracker::writeLocked(const std::vector<std::string>& keys, bool commitNow) {
+    journal_->write([&](Journal& j) {
+        for (const auto& key : keys) {
+            heldBack_.erase(key);
+            if (auto it = partials_.find(key); it != partials_.end())
+                writeRow(j, it->second);
+            else
+                deleteRow(j, key);
         }
-        text += ']';
-        encoded_ = std::move(encoded);
-    }
-    replaceFileAtomically(file_, text);
+    });
+    if (commitNow)
+        journal_->commit();
 }
 
-template <typename Change>
-void PartialDownloadTracker::changeAndWrite(Change change) {
-    std::lock_guard write(writeMutex_);
-    {
-        std::lock_guard lock(mutex_);
-        if (!change())
-            return;
-        lastWrite_ = clock_.now();
-        unsaved_ = false;
-    }
-    writeNow();
+void PartialDownloadTracker::writeHeldBackLocked() {
+    lastWrite_ = clock_.now();
+    if (!heldBack_.empty())
+        writeLocked({heldBack_.begin(), heldBack_.end()}, false);
 }
 
 void PartialDownloadTracker::record(std::span<const PartialDownload> partials) {
-    changeAndWrite([&] {
-        for (const PartialDownload& partial : partials) {
-            placedByEarlierRun_.erase(partial.remotePath);
-            partials_.insert_or_assign(partial.remotePath, partial);
-            encoded_.erase(partial.remotePath);
-        }
-        return !partials.empty();
-    });
+    std::lock_guard lock(mutex_);
+    std::vector<std::string> keys;
+    for (const PartialDownload& partial : partials) {
+        placedByEarlierRun_.erase(partial.remotePath);
+        partials_.insert_or_assign(partial.remotePath, partial);
+        keys.push_back(partial.remotePath);
+    }
+    writeLocked(keys, true);
 }
 
 std::optional<PartialDownload> PartialDownloadTracker::partial(
     const std::string& remotePath) const {
     std::lock_guard lock(mutex_);
-    auto it = partials_.find(remotePath);
-    if (it == partials_.end())
+    return findLocked(remotePath);
+}
+
+std::optional<PartialDownload> PartialDownloadTracker::findLocked(
+    const std::string& remotePath) const {
+    if (auto it = partials_.find(remotePath); it != partials_.end())
+        return it->second;
+    if (remotePath.empty())
         return std::nullopt;
-    return it->second;
+    auto placed = loadRows(*journal_, remotePath);  // a placed file's, kept on disk alone
+    if (placed.empty())
+        return std::nullopt;
+    return std::move(placed.begin()->second);
 }
 
 void PartialDownloadTracker::updateProgress(const std::string& remotePath, std::int64_t bytes) {
@@ -159,78 +195,87 @@ void PartialDownloadTracker::updateProgress(const std::string& remotePath, std::
         return;
     it->second.downloadedBytes = bytes;
     it->second.lastResumedAt = clock_.now();
-    encoded_.erase(remotePath);
-    unsaved_ = true;
+    heldBack_.insert(remotePath);
     if (clock_.now() - lastWrite_ >= progressWriteInterval)
-        saveLocked();
+        writeHeldBackLocked();
 }
 
 void PartialDownloadTracker::incrementResumeAttempts(const std::string& remotePath) {
-    changeAndWrite([&] {
-        auto it = partials_.find(remotePath);
-        if (it != partials_.end()) {
-            it->second.resumeAttempts += 1;
-            it->second.lastResumedAt = clock_.now();
-            encoded_.erase(remotePath);
-        }
-        return true;
-    });
+    std::lock_guard lock(mutex_);
+    auto it = partials_.find(remotePath);
+    if (it == partials_.end())
+        return;
+    it->second.resumeAttempts += 1;
+    it->second.lastResumedAt = clock_.now();
+    writeLocked({remotePath}, true);
 }
 
 void PartialDownloadTracker::markPlaced(const std::string& remotePath,
                                         const std::string& placedPath) {
-    changeAndWrite([&] {
-        auto it = partials_.find(remotePath);
-        if (it == partials_.end())
-            return false;
-        it->second.placedPath = placedPath;
-        encoded_.erase(remotePath);
-        return true;
-    });
+    std::lock_guard lock(mutex_);
+    auto record = findLocked(remotePath);
+    if (!record)
+        return;
+    record->placedPath = placedPath;
+    // Only a restart reads it from here on: the row stays until remove(), the memory goes now,
+    // so that a batch of many thousand files kept on the server holds none of them.
+    partials_.erase(remotePath);
+    journal_->write([&](Journal& j) { writeRow(j, *record); });
+    journal_->commit();
 }
 
 std::vector<PartialDownload> PartialDownloadTracker::takePlacedByEarlierRun(
     const std::string& connectionId) {
+    std::lock_guard lock(mutex_);
     std::vector<PartialDownload> taken;
-    changeAndWrite([&] {
-        for (auto key = placedByEarlierRun_.begin(); key != placedByEarlierRun_.end();) {
-            auto it = partials_.find(*key);
-            if (it == partials_.end() || it->second.placedPath.empty()) {
-                key = placedByEarlierRun_.erase(key);
-            } else if (it->second.connectionId == connectionId) {
-                taken.push_back(std::move(it->second));
-                partials_.erase(it);
-                key = placedByEarlierRun_.erase(key);
-            } else {
-                ++key;
-            }
+    std::vector<std::string> keys;
+    for (auto key = placedByEarlierRun_.begin(); key != placedByEarlierRun_.end();) {
+        auto it = partials_.find(*key);
+        if (it == partials_.end() || it->second.placedPath.empty()) {
+            key = placedByEarlierRun_.erase(key);
+        } else if (it->second.connectionId == connectionId) {
+            keys.push_back(*key);
+            taken.push_back(std::move(it->second));
+            partials_.erase(it);
+            key = placedByEarlierRun_.erase(key);
+        } else {
+            ++key;
         }
-        return !taken.empty();
-    });
+    }
+    if (!keys.empty())
+        writeLocked(keys, true);
     return taken;
 }
 
 void PartialDownloadTracker::remove(const std::string& remotePath) {
-    // Paced like the byte count, and written with the next record: a record left by a crash
-    // claims a temporary file that is no longer there, which the next transfer of that name
-    // drops or replaces.
+    // Committed with the journal's next commit: a record left by a crash claims a temporary
+    // file that is no longer there, which the next transfer of that name drops or replaces.
     std::lock_guard lock(mutex_);
-    if (partials_.erase(remotePath) == 0)
-        return;
-    unsaved_ = true;
-    if (clock_.now() - lastWrite_ >= progressWriteInterval)
-        saveLocked();
+    partials_.erase(remotePath);
+    writeLocked({remotePath}, false);  // also the row of a placed file, which memory lets go of
 }
 
 void PartialDownloadTracker::discard(const std::string& remotePath) {
-    changeAndWrite([&] {
-        auto it = partials_.find(remotePath);
-        if (it == partials_.end())
+    std::lock_guard lock(mutex_);
+    auto record = findLocked(remotePath);
+    if (!record)
+        return;
+    std::error_code ignored;  // a file that stays is swept as an orphan at the next start
+    std::filesystem::remove(record->localTempPath, ignored);
+    partials_.erase(remotePath);
+    writeLocked({remotePath}, true);
+}
+
+void PartialDownloadTracker::removeConnection(const std::string& connectionId) {
+    std::lock_guard lock(mutex_);
+    std::erase_if(partials_, [&](const auto& item) {
+        if (item.second.connectionId != connectionId)
             return false;
-        std::error_code ignored;  // a file that stays is swept as an orphan at the next start
-        std::filesystem::remove(it->second.localTempPath, ignored);
-        partials_.erase(it);
+        heldBack_.erase(item.first);
         return true;
+    });
+    journal_->write([&](Journal& j) {
+        j.statement("DELETE FROM partials WHERE connection_id = ?1").bind(1, connectionId).step();
     });
 }
 

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "platform/clock.h"
-#include "platform/serial_queue.h"
+#include "records/journal.h"
 
 namespace tarnel {
 
@@ -34,28 +34,33 @@ struct PartialDownload {
     bool operator==(const PartialDownload&) const = default;
 };
 
-// The records of partial downloads of all engines, kept across restarts in "partials.json".
+// The records of partial downloads of all engines, one row each in the journal.
 // Records are keyed by tracking key alone: two connections with the same key share one record.
-// Every operation is callable from any thread. A record is on disk when record() returns, before
-// the download it describes writes a byte, and its removal with its file when discard()
-// returns, so that a crash never leaves a temporary file that no record claims. The rest is
-// paced: the writer thread writes removals and the byte count (which transfers update on every
-// progress callback) at most once per `progressWriteInterval`, unless a record goes first.
+// Every operation is callable from any thread. A record is committed when record() returns,
+// before the download it describes writes a byte, and its removal with its file when discard()
+// returns, so that a crash never leaves a temporary file that no record claims. The byte count
+// (which transfers update on every progress callback) is written at most once per
+// `progressWriteInterval`; removals go with the journal's next commit.
 // It also knows which temporary files are being written, by any engine of the fleet, so that no
 // two transfers ever write one.
 class PartialDownloadTracker {
 public:
     static constexpr std::chrono::milliseconds progressWriteInterval{1000};
 
+    // `partialsFile` is the store of older versions, moved into the journal at the first start.
     // `clock` stamps the records and paces the writes; the wall clock if none is given.
-    explicit PartialDownloadTracker(std::filesystem::path partialsFile,
+    PartialDownloadTracker(std::shared_ptr<Journal> journal,
+                           const std::filesystem::path& partialsFile,
+                           const Clock* clock = nullptr);
+    // With the journal "journal.db" beside `partialsFile`.
+    explicit PartialDownloadTracker(const std::filesystem::path& partialsFile,
                                     const Clock* clock = nullptr);
     ~PartialDownloadTracker();  // writes a byte count that pacing held back
 
     PartialDownloadTracker(const PartialDownloadTracker&) = delete;
     PartialDownloadTracker& operator=(const PartialDownloadTracker&) = delete;
 
-    // Inserts or replaces each record under its remotePath, in one write.
+    // Inserts or replaces each record under its remotePath, in one commit.
     void record(std::span<const PartialDownload> partials);
     void record(const PartialDownload& partial) { record({&partial, 1}); }
     std::optional<PartialDownload> partial(const std::string& remotePath) const;
@@ -65,10 +70,12 @@ public:
     // Removes and returns the records of `connectionId` that an earlier run of the program had
     // marked placed: that run may have ended before the files' bookings reached the disk.
     std::vector<PartialDownload> takePlacedByEarlierRun(const std::string& connectionId);
-    // Drops the record, on disk at a paced rate; the temporary file stays.
+    // Drops the record; the temporary file stays.
     void remove(const std::string& remotePath);
     // Drops the record and deletes its temporary file.
     void discard(const std::string& remotePath);
+    // Drops the records of a deleted connection; their files are orphans from then on.
+    void removeConnection(const std::string& connectionId);
 
     // A temporary file held for one transfer until the claim is destroyed. A claim may outlive
     // the tracker (a transfer's frame freed late at shutdown): it then lets go of nothing.
@@ -80,39 +87,31 @@ public:
     // left out. The caller deletes them.
     std::vector<std::filesystem::path> orphanedFiles(const std::filesystem::path& directory) const;
 
-    const std::filesystem::path& storageURL() const { return file_; }
+    const std::shared_ptr<Journal>& journal() const { return journal_; }
 
-    // Writes what pacing held back and waits until it is on disk (shutdown).
+    // Writes what pacing held back and waits until it is committed (shutdown).
     void flush();
 
 private:
-    // Called with mutex_ held: have the records written, soon, by the writer thread.
-    void saveLocked();
-    // Writes the records as they are now. Called with writeMutex_ held and mutex_ not held.
-    void writeNow();
-    // Applies `change` to the records and writes them before returning.
-    template <typename Change>
-    void changeAndWrite(Change change);
+    // Writes the rows of `keys` as they are in memory now (none left: the row goes).
+    // Called with mutex_ held.
+    void writeLocked(const std::vector<std::string>& keys, bool commitNow);
+    void writeHeldBackLocked();
+    // The record in memory, or a placed file's on disk.
+    std::optional<PartialDownload> findLocked(const std::string& remotePath) const;
 
-    std::filesystem::path file_;
+    std::shared_ptr<Journal> journal_;
     const Clock& clock_;
-    // Taken before mutex_: a snapshot and its write are one step, so no write of older records
-    // lands after a newer one.
-    std::mutex writeMutex_;
     mutable std::mutex mutex_;
     std::map<std::string, PartialDownload> partials_;
-    // Each record's JSON as last written; a record that changes loses its entry.
-    std::map<std::string, std::string> encoded_;
     std::set<std::string> placedByEarlierRun_;  // keys, as loaded
+    std::set<std::string> heldBack_;            // keys whose byte count waits for pacing
     struct Claims {
         std::mutex mutex;
         std::set<std::filesystem::path> paths;
     };
     std::shared_ptr<Claims> claims_ = std::make_shared<Claims>();
     TimePoint lastWrite_;
-    bool unsaved_ = false;
-    bool writeQueued_ = false;
-    SerialQueue queue_;  // last: its thread must stop before the rest goes
 };
 
 class PartialDownloadTracker::WritingClaim {

@@ -81,12 +81,12 @@ struct EngineFixture : ::testing::Test {
     std::shared_ptr<SyncEngine> makeEngine() {
         return std::make_shared<SyncEngine>(
             config, std::make_unique<MemoryRemote>(loop, server),
-            std::make_unique<DownloadTracker>(settingsStore, config.id.toString()),
+            std::make_unique<DownloadTracker>(partials.journal(), settingsStore, config.id.toString()),
             engineServices());
     }
 
     void markDownloaded(const std::string& key, std::int64_t size) {
-        DownloadTracker(settingsStore, config.id.toString()).markDownloaded(key, size);
+        DownloadTracker(partials.journal(), settingsStore, config.id.toString()).markDownloaded(key, size);
     }
 
     // Log lines are checked in their formatted form, "[time] LEVEL message", by substring.

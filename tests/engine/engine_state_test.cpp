@@ -306,7 +306,7 @@ TEST_F(EngineStateTest, AFilePlacedByARunThatDiedIsBookedNotFetchedAgain) {
     PartialDownloadTracker reloaded{dir / "earlier.json", &loop};
     auto engine = std::make_shared<SyncEngine>(
         config, std::make_unique<MemoryRemote>(loop, server),
-        std::make_unique<DownloadTracker>(settingsStore, config.id.toString()),
+        std::make_unique<DownloadTracker>(reloaded.journal(), settingsStore, config.id.toString()),
         EngineServices{runtime, logService, stats, history, settings, reloaded, notifications,
                        sleepMonitor, soundPlayer});
     engine->start();

@@ -34,7 +34,7 @@ struct EngineTransferTest : EngineFixture, ::testing::WithParamInterface<ServerP
         auto service = std::make_unique<FTPService>(config, logService, std::move(client));
         return std::make_shared<SyncEngine>(
             config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
-            std::make_unique<DownloadTracker>(settingsStore, config.id.toString()),
+            std::make_unique<DownloadTracker>(partials.journal(), settingsStore, config.id.toString()),
             engineServices());
     }
 

@@ -7,12 +7,12 @@
 #include <fstream>
 #include <map>
 #include <thread>
-#include <nlohmann/json.hpp>
 
 #include "app/tarnel_process.h"
 #include "connections/connection_config_json.h"
 #include "engine_fixture.h"
 #include "fleet/connections_manager.h"
+#include "records/journal.h"
 #include "servers/test_server.h"
 
 namespace tarnel::testing {
@@ -122,9 +122,18 @@ TEST_F(FleetTransferTest, KilledInTheMiddleOfABatchNoFileArrivesTwiceAndEachHasO
     EXPECT_EQ(filesIn(dir / "downloads").size(), names.size());
 
     std::map<std::string, int> entries;
-    const auto historyText = readFile(dir / "home" / "data" / "Tarnel" / "history.json");
-    for (const auto& entry : nlohmann::json::parse(historyText))
-        ++entries[entry.at("finalFilename").get<std::string>()];
+    auto journal = Journal::open(dir / "home" / "data" / "Tarnel" / "journal.db");
+    journal->read([&](Journal& j) {
+        for (auto& rows = j.statement("SELECT final_filename FROM history"); rows.step();)
+            ++entries[rows.text(0)];
+    });
+    // Each file booked once, so that no later poll of the server fetches it again.
+    const auto booked = journal->read([&](Journal& j) {
+        auto& count = j.statement("SELECT count(*) FROM downloaded");
+        count.step();
+        return count.integer(0);
+    });
+    EXPECT_EQ(booked, static_cast<std::int64_t>(names.size()));
     EXPECT_EQ(entries.size(), names.size());
     for (const auto& [name, count] : entries) EXPECT_EQ(count, 1) << name;
 }

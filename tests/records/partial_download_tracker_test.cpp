@@ -18,8 +18,9 @@ protected:
         auto temp = (dir / (key + ".tarnel-partial")).string();
         return {key, temp, 1000, 0, "C0FFEE", clock.now(), clock.now(), 0, ""};
     }
-    std::int64_t bytesOnDisk() const {
-        return nlohmann::json::parse(readWholeFile(file).value())[0]["downloadedBytes"];
+    // What a restart would find: the journal's committed rows, through a connection of its own.
+    std::int64_t bytesOnDisk() {
+        return PartialDownloadTracker(file, &clock).partial("a.zip")->downloadedBytes;
     }
     TestDir dir{"partials"};
     VirtualLoop clock;
@@ -50,19 +51,33 @@ TEST_F(PartialDownloadTrackerTest, RecordsAreOnDiskAtOnceAndSurviveARestart) {
     EXPECT_FALSE(tracker.partial("b.zip"));
 }
 
-// A file cut short, or one record that lacks a key: an empty store; the next change replaces it.
-TEST_F(PartialDownloadTrackerTest, UnreadableFilesGiveAnEmptyStore) {
-    PartialDownloadTracker(file, &clock).record(sample("a.zip"));
-    auto text = readWholeFile(file).value();
-    auto lacking = nlohmann::json::parse(text);
-    lacking[0].erase("resumeAttempts");
-    for (const std::string& bad : {text.substr(0, text.size() / 2), lacking.dump()}) {
-        ASSERT_TRUE(replaceFileAtomically(file, bad));
-        PartialDownloadTracker tracker(file, &clock);
-        EXPECT_FALSE(tracker.partial("a.zip"));
-        tracker.record(sample("b.zip"));
-        tracker.flush();
-        EXPECT_TRUE(PartialDownloadTracker(file, &clock).partial("b.zip"));
+// The store of older versions moves into the journal; one cut short, or with a record that
+// lacks a key, gives no records, as it always did, and is kept aside all the same.
+TEST_F(PartialDownloadTrackerTest, OlderStoresMoveIntoTheJournalReadableOrNot) {
+    const std::string record =
+        R"({"remotePath":"a.zip","localTempPath":"/t/a.zip.tarnel-partial","expectedSize":1000,)"
+        R"("downloadedBytes":10,"connectionId":"C0FFEE","startedAt":700000000.5,)"
+        R"("lastResumedAt":700000001.5,"resumeAttempts":2})";
+    auto lacking = nlohmann::json::parse(record);
+    lacking.erase("resumeAttempts");
+    for (const std::string& stored : {"[" + record + "]", "[" + record.substr(0, 50),
+                                      "[" + lacking.dump() + "]"}) {
+        std::filesystem::remove_all(file.parent_path());
+        ASSERT_TRUE(replaceFileAtomically(file, stored));
+        const bool readable = stored.size() > record.size() + 1;
+        {
+            PartialDownloadTracker tracker(file, &clock);
+            EXPECT_EQ(tracker.partial("a.zip").has_value(), readable) << stored;
+        }
+        EXPECT_FALSE(std::filesystem::exists(file));
+        EXPECT_EQ(readWholeFile(file.string() + ".migrated"), stored);
+        auto again = PartialDownloadTracker(file, &clock).partial("a.zip");
+        EXPECT_EQ(again.has_value(), readable);
+        if (readable) {
+            EXPECT_EQ(again->resumeAttempts, 2);
+            EXPECT_EQ(again->downloadedBytes, 10);
+            EXPECT_EQ(toReferenceSeconds(again->lastResumedAt), 700000001.5);
+        }
     }
 }
 
@@ -99,15 +114,17 @@ TEST_F(PartialDownloadTrackerTest, OrphansAndDiscard) {
     EXPECT_FALSE(tracker.partial("a.zip"));
 }
 
-// They hold what is the user's alone, also where an older version left them open to all.
-TEST_F(PartialDownloadTrackerTest, TheStoreIsReadableByItsOwnerAloneInAFolderOfItsOwn) {
+// They hold what is the user's alone, also where an older version left the folder open to all.
+TEST_F(PartialDownloadTrackerTest, TheJournalIsReadableByItsOwnerAloneInAFolderOfItsOwn) {
     namespace fs = std::filesystem;
     fs::create_directories(file.parent_path());
-    std::ofstream(file) << "[]";
     fs::permissions(file.parent_path(), fs::perms(0755));
-    fs::permissions(file, fs::perms(0644));
     PartialDownloadTracker(file, &clock).record(sample("a.zip"));
-    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
+    for (const char* name : {"journal.db", "journal.db-wal", "journal.db-shm"}) {
+        if (fs::exists(file.parent_path() / name)) {
+            EXPECT_EQ(fs::status(file.parent_path() / name).permissions(), fs::perms(0600)) << name;
+        }
+    }
     EXPECT_EQ(fs::status(file.parent_path()).permissions(), fs::perms(0700));
 
     // A shared folder, like /tmp, stays open to all.

@@ -1,0 +1,135 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/serial_queue.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace tarnel {
+
+struct JournalError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+// A prepared statement of the journal, kept for the life of its connection and reset before
+// each use. Valid only inside Journal::read() or Journal::write().
+class Statement {
+public:
+    explicit Statement(sqlite3_stmt* statement) : statement_(statement) {}
+
+    Statement& bind(int index, std::string_view text);
+    Statement& bind(int index, std::int64_t number);
+    Statement& bind(int index, double number);
+    Statement& bindNull(int index);
+
+    // Moves to the next row: false when there is none (or the statement wrote).
+    bool step();
+    std::int64_t integer(int column) const;
+    double real(int column) const;
+    std::string text(int column) const;
+    bool isNull(int column) const;
+
+private:
+    friend class Journal;
+    sqlite3_stmt* statement_;
+};
+
+// The database that holds what the program remembers per file: the downloaded sets, the
+// partial-download records and the transfer history (SQLite, WAL). A change costs a row.
+//
+// One connection, used from any thread under one mutex. Writes go into a transaction that stays
+// open until the journal's writer thread commits it, right after: a burst of rows from several
+// engines shares one commit, and reads on the same connection see every row written before
+// them, committed or not. A commit survives a crash of the process; what was not committed is
+// lost with it, which is why the records that a restart must find call commit() themselves.
+class Journal {
+public:
+    using ErrorReport = std::function<void(const std::string&)>;
+
+    // Opens `file`, or starts it. A journal that cannot be opened or fails its check is renamed
+    // aside (".corrupt-" + a time stamp), reported through `reportError`, and a new one started:
+    // the program goes on without the rows it held. When not even a new file can be made, the
+    // journal lives in memory for this run, and that is reported too.
+    static std::shared_ptr<Journal> open(const std::filesystem::path& file,
+                                         const ErrorReport& reportError = {});
+    ~Journal();  // commits what is written
+
+    Journal(const Journal&) = delete;
+    Journal& operator=(const Journal&) = delete;
+
+    // Runs `work(journal)` now, inside the open transaction (begun if none), and has the
+    // transaction committed by the writer thread. Storage errors are swallowed: the stores
+    // never report a failure to write. Returns false after one.
+    template <typename Work>
+    bool write(Work&& work) {
+        Use use(*this);
+        try {
+            beginLocked();
+            work(*this);
+            scheduleCommitLocked();
+            return true;
+        } catch (const JournalError&) {
+            return false;
+        }
+    }
+    // Runs `work(journal)` on the writer thread, off the caller's path, then commits.
+    void writeLater(std::function<void(Journal&)> work);
+    // Reads, seeing every row written before. Errors reach the caller as JournalError.
+    template <typename Work>
+    auto read(Work&& work) {
+        Use use(*this);
+        return work(*this);
+    }
+    // Commits the open transaction before returning.
+    void commit();
+    // Waits for the work queued with writeLater() and commits it.
+    void flush();
+    // Runs `work` in a transaction of its own, committed when it returns true and rolled back
+    // when it returns false or throws (the migration of an older store: all or nothing).
+    bool transaction(const std::function<bool(Journal&)>& work);
+
+    // Only inside read(), write() or transaction().
+    Statement& statement(const char* sql);
+    void execute(const char* sql);
+    std::int64_t changes() const;
+
+    const std::filesystem::path& file() const { return file_; }
+
+private:
+    // The connection, held for one read or write: statements used meanwhile are reset when it
+    // ends, so that none keeps a read snapshot open.
+    struct Use {
+        explicit Use(Journal& journal) : journal(journal), lock(journal.mutex_) {}
+        ~Use() { journal.resetUsedLocked(); }
+        Journal& journal;
+        std::lock_guard<std::mutex> lock;
+    };
+
+    Journal(std::filesystem::path file, sqlite3* db);
+    void resetUsedLocked();
+    void beginLocked();
+    void commitLocked();
+    void scheduleCommitLocked();
+
+    std::filesystem::path file_;
+    sqlite3* db_;
+    std::mutex mutex_;
+    std::unordered_map<const char*, std::unique_ptr<Statement>> statements_;
+    std::vector<Statement*> used_;
+    bool inTransaction_ = false;
+    bool commitQueued_ = false;
+    SerialQueue queue_;  // last: its thread stops before the connection closes
+};
+
+}  // namespace tarnel
