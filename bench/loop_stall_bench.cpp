@@ -181,7 +181,7 @@ int run(std::size_t mib, const fs::path& dir) {
     auto service = std::make_unique<FTPService>(config, log, std::move(client));
     auto engine = std::make_shared<SyncEngine>(
         config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
-        std::make_unique<DownloadTracker>(store, config.id.toString()),
+        std::make_unique<DownloadTracker>(partials.journal(), store, config.id.toString()),
         EngineServices{runtime, log, stats, history, settings, partials, notifications, sleep,
                        silent});
 

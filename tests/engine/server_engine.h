@@ -19,7 +19,8 @@ inline std::shared_ptr<SyncEngine> makeServerEngine(EngineFixture& f) {
     auto service = std::make_unique<FTPService>(f.config, f.logService, std::move(client));
     return std::make_shared<SyncEngine>(
         f.config, std::make_unique<FtpRemoteService>(f.runtime, std::move(service)),
-        std::make_unique<DownloadTracker>(f.settingsStore, f.config.id.toString()),
+        std::make_unique<DownloadTracker>(f.partials.journal(), f.settingsStore,
+                                          f.config.id.toString()),
         f.engineServices());
 }
 
