@@ -15,6 +15,13 @@ InstanceAnswer importRequest(AppServices& services, const std::string& payload) 
     }
 }
 
+InstanceAnswer askHolder(const InstanceLock& lock, InstanceRequestKind kind,
+                         const std::string& payload) {
+    const auto channel = lock.holderChannel(std::chrono::seconds(5));
+    if (!channel) return {false, "Tarnel is running on these stores but names no socket to reach it"};
+    return InstanceChannel::send(*channel, kind, payload);
+}
+
 void listenForLaterLaunches(InstanceChannel& channel, LogService& log) {
     if (std::string error; !channel.listen(error))
         log.log(error + "; later launches cannot reach this one", LogLevel::warning);

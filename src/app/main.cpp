@@ -72,7 +72,7 @@ int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
 
     // One fleet per set of stores: a later launch hands its import to the running one.
-    const InstanceLock lock(paths.instanceLockFile);
+    const InstanceLock lock(paths.instanceLockFiles, paths.instanceSocket);
     if (lock.error()) {
         std::cerr << "tarnel: " << *lock.error() << "\nCheck that the folder is yours and writable.\n";
         return 2;
@@ -80,8 +80,8 @@ int main(int argc, char** argv) {
     if (!lock.held()) {
         bool importedThere = true;
         if (options.importFile) {
-            const auto answer = InstanceChannel::send(paths.instanceSocket, InstanceRequestKind::import,
-                                                      encodeConnectionList(imported));
+            const auto answer =
+                askHolder(lock, InstanceRequestKind::import, encodeConnectionList(imported));
             (answer.ok ? std::cout : std::cerr) << answer.text << "\n";
             importedThere = answer.ok;
         }

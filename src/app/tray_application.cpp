@@ -18,13 +18,13 @@ namespace tarnel {
 int runTrayApplication(int argc, char** argv, const AppPaths& paths, int stopSignals) {
     QApplication app(argc, argv);
     // One fleet per set of stores: a second launch shows the running one's popup.
-    const InstanceLock lock(paths.instanceLockFile);
+    const InstanceLock lock(paths.instanceLockFiles, paths.instanceSocket);
     if (lock.error()) {
         std::cerr << "tarnel: " << *lock.error() << "\nCheck that the folder is yours and writable.\n";
         return 2;
     }
     if (!lock.held()) {
-        const auto answer = InstanceChannel::send(paths.instanceSocket, InstanceRequestKind::show, {});
+        const auto answer = askHolder(lock, InstanceRequestKind::show, {});
         if (!answer.ok) std::cerr << "tarnel: " << answer.text << "\n";
         return answer.ok ? 0 : 2;
     }

@@ -59,7 +59,12 @@ struct SingleInstanceTest : ::testing::Test {
     }
 };
 
+// The first runs with a runtime folder, as in a desktop session; the later launches without
+// one, as from cron or sudo: they still meet it on the same stores.
 TEST_F(SingleInstanceTest, ASecondHeadlessIsRefusedAndAnImportIsHandedToTheRunningOne) {
+    fs::create_directories(dir / "runtime");
+    fs::permissions(dir / "runtime", fs::perms::owner_all);
+    first.addEnvironment("XDG_RUNTIME_DIR=" + (dir / "runtime").string());
     startFirst();
     auto second = later.run({"--headless"});
     EXPECT_EQ(second.exitCode, 2);
@@ -116,8 +121,7 @@ TEST_F(SingleInstanceTest, ALockLeftByAKilledInstanceDoesNotStopTheNextStart) {
 
 // A lock that cannot be made must not read as another instance running.
 TEST_F(SingleInstanceTest, ALockFileThatCannotBeMadeIsSaidSo) {
-    fs::create_directories(first.home() / "state/Tarnel");
-    std::ofstream(first.home() / "state/Tarnel/run") << "a file where the lock's folder goes";
+    fs::create_directories(first.home() / "data/Tarnel/tarnel.lock");  // a folder where it goes
     auto refused = first.run({"--headless"});
     EXPECT_EQ(refused.exitCode, 2);
     EXPECT_NE(refused.err.find("cannot open the lock file"), std::string::npos) << refused.err;
