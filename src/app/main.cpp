@@ -126,11 +126,9 @@ int main(int argc, char** argv) {
     QSocketNotifier stopNotifier(signals, QSocketNotifier::Read);
     QObject::connect(&stopNotifier, &QSocketNotifier::activated, &app, [&] {
         services.logService().log(takeStopSignal(signals));
-        services.shutdown();
-        // Transfers still running end with the process; their temporary files and records
-        // are what the next start resumes from.
-        std::fflush(stdout);
-        std::_Exit(0);
+        QCoreApplication::quit();
     });
-    return app.exec();
+    const int status = app.exec();
+    services.shutdown();
+    return status;
 }

@@ -58,9 +58,9 @@ ConnectionsManager::~ConnectionsManager() {
     if (networkMonitor_) networkMonitor_->cancel();
 }
 
-std::unique_ptr<RemoteService> ConnectionsManager::makeCurlRemote(
-    const ConnectionConfig& config) const {
+std::unique_ptr<RemoteService> ConnectionsManager::makeCurlRemote(const ConnectionConfig& config) {
     auto client = std::make_unique<CurlTransferClient>(config, services_.knownHostsFile);
+    madeClient_ = client.get();
     auto service = std::make_unique<FTPService>(config, services_.logService, std::move(client));
     return std::make_unique<FtpRemoteService>(services_.runtime, std::move(service));
 }
@@ -140,8 +140,11 @@ void ConnectionsManager::createEngine(const ConnectionConfig& config, bool start
     auto& tracker = downloadTrackers_[config.id];
     if (!tracker)
         tracker = std::make_shared<DownloadTracker>(services_.settingsStore, config.id.toString());
+    madeClient_ = nullptr;
     auto engine = std::make_shared<SyncEngine>(config, makeRemote_(config), tracker,
                                                engineServices_);
+    std::erase_if(transferClients_, [](const auto& entry) { return entry.first.expired(); });
+    if (madeClient_) transferClients_.emplace_back(engine, madeClient_);
     engine->setConnectionsManager(std::weak_ptr<FleetLink>(weak_from_this()));
     engines_[config.id] = engine;
 
@@ -240,6 +243,11 @@ void ConnectionsManager::stopAll() {
     activeBookmarks_.clear();
     activeRuleBookmarks_.clear();
     activeFallbackBookmarks_.clear();
+}
+
+void ConnectionsManager::endTransfers() {
+    for (const auto& [engine, client] : transferClients_)
+        if (!engine.expired()) client->stop();
 }
 
 void ConnectionsManager::pauseAll() {

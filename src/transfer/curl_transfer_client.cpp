@@ -199,6 +199,15 @@ void CurlTransferClient::end(const std::shared_ptr<Operation>& op, CURLcode code
     begin(std::move(next));
 }
 
+void CurlTransferClient::stop() {
+    std::deque<std::shared_ptr<Operation>> waiting;
+    {
+        std::lock_guard lock(turnsMutex_);
+        waiting.swap(waiting_);
+    }
+    drivers_.stop();
+}
+
 CURLcode CurlTransferClient::run(const std::shared_ptr<Operation>& op) {
     return waitForResult([&](SessionDriver::Done done) {
         launch(op, [done = std::move(done)](Operation&, CURLcode code) { done(code); });

@@ -187,6 +187,10 @@ void SessionDriver::finish(Operation& op, CURLcode code) {
 }
 
 SessionDrivers::~SessionDrivers() {
+    stop();
+}
+
+void SessionDrivers::stop() {
     std::vector<std::unique_ptr<SessionDriver>> drivers;
     {
         std::lock_guard lock(mutex_);

@@ -84,7 +84,7 @@ private:
 class SessionDrivers {
 public:
     SessionDrivers() = default;
-    // Operations started later, from a driver's `done`, are dropped like those still running.
+    // stop().
     ~SessionDrivers();
     SessionDrivers(const SessionDrivers&) = delete;
     SessionDrivers& operator=(const SessionDrivers&) = delete;
@@ -92,6 +92,10 @@ public:
     // SessionDriver::start() on a driver with nothing to do: the caller's own, when a `done`
     // starts the next operation, so that no other thread need be woken for it.
     void start(CurlSession& session, SessionDriver::Done done);
+    // Ends every operation still running without calling its `done`, and joins the drivers'
+    // threads; operations started later, from a `done` or another thread, are dropped the same
+    // way. Whoever waited for a dropped operation learns of it as its `done` is destroyed.
+    void stop();
 
 private:
     std::mutex mutex_;
