@@ -17,6 +17,7 @@ using nlohmann::json;
 constexpr std::pair<InstanceRequestKind, const char*> kindNames[] = {
     {InstanceRequestKind::import, "import"},
     {InstanceRequestKind::show, "show"},
+    {InstanceRequestKind::status, "status"},
 };
 
 const char* nameOf(InstanceRequestKind kind) {

@@ -73,28 +73,31 @@ void InstanceLock::release() {
     fds_.clear();
 }
 
+bool InstanceLock::taken(const std::filesystem::path& file) {
+    const int fd = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return false;  // never made: nobody has run on these stores
+    flock range = wholeFile(F_WRLCK);
+    const bool locked = ::fcntl(fd, F_OFD_GETLK, &range) == 0 && range.l_type != F_UNLCK;
+    ::close(fd);
+    return locked;
+}
+
 bool InstanceLock::taken(const std::vector<std::filesystem::path>& files) {
-    for (const auto& file : files) {
-        const int fd = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
-        if (fd < 0) continue;  // never made: nobody has run on these stores
-        flock range = wholeFile(F_WRLCK);
-        const bool locked = ::fcntl(fd, F_OFD_GETLK, &range) == 0 && range.l_type != F_UNLCK;
-        ::close(fd);
-        if (locked) return true;
-    }
+    for (const auto& file : files)
+        if (taken(file)) return true;
     return false;
 }
 
-std::vector<std::string> InstanceLock::holderLines() const {
+std::vector<std::string> InstanceLock::holderLines(const std::filesystem::path& file) {
     std::vector<std::string> lines;
-    std::ifstream in(refusedBy_);
+    std::ifstream in(file);
     for (std::string line; std::getline(in, line);) lines.push_back(line);
     return lines;
 }
 
 std::optional<pid_t> InstanceLock::holder() const {
     if (held_) return ::getpid();
-    const auto lines = holderLines();
+    const auto lines = holderLines(refusedBy_);
     if (lines.empty()) return std::nullopt;
     try {
         const long pid = std::stol(lines[0]);
@@ -104,13 +107,25 @@ std::optional<pid_t> InstanceLock::holder() const {
     return std::nullopt;
 }
 
-std::optional<std::filesystem::path> InstanceLock::holderChannel(std::chrono::milliseconds limit) const {
+std::optional<std::filesystem::path> InstanceLock::channelIn(const std::filesystem::path& file,
+                                                             std::chrono::milliseconds limit) {
     const auto until = std::chrono::steady_clock::now() + limit;
     for (;;) {
-        if (const auto lines = holderLines(); lines.size() >= 2 && !lines[1].empty()) return lines[1];
+        if (const auto lines = holderLines(file); lines.size() >= 2 && !lines[1].empty()) return lines[1];
         if (std::chrono::steady_clock::now() >= until) return std::nullopt;
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
     }
+}
+
+std::optional<std::filesystem::path> InstanceLock::holderChannel(std::chrono::milliseconds limit) const {
+    return channelIn(refusedBy_, limit);
+}
+
+std::optional<std::filesystem::path> InstanceLock::channelOfHolder(
+    const std::vector<std::filesystem::path>& files, std::chrono::milliseconds limit) {
+    for (const auto& file : files)
+        if (taken(file)) return channelIn(file, limit);
+    return std::nullopt;
 }
 
 }  // namespace tarnel

@@ -39,11 +39,18 @@ public:
     // Whether a process holds the lock of any of `files`. Takes nothing, so that asking never
     // turns away an instance that starts at the same moment.
     static bool taken(const std::vector<std::filesystem::path>& files);
+    // holderChannel() for a process that does not try to take the lock: the socket named in
+    // the first of `files` that is taken; nullopt when none is, or it names none in time.
+    static std::optional<std::filesystem::path> channelOfHolder(
+        const std::vector<std::filesystem::path>& files, std::chrono::milliseconds limit);
 
 private:
     void release();
-    // The holder's lines: process id, then socket. Empty while it has not written them.
-    std::vector<std::string> holderLines() const;
+    // The holder's lines in `file`: process id, then socket. Empty while it has not written them.
+    static std::vector<std::string> holderLines(const std::filesystem::path& file);
+    static std::optional<std::filesystem::path> channelIn(const std::filesystem::path& file,
+                                                          std::chrono::milliseconds limit);
+    static bool taken(const std::filesystem::path& file);
 
     std::vector<int> fds_;
     std::filesystem::path refusedBy_;  // the file whose lock another process holds

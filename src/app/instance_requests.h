@@ -14,6 +14,12 @@ namespace tarnel {
 // Imports the records of `payload` into the running fleet and logs the summary.
 InstanceAnswer importRequest(AppServices& services, const std::string& payload);
 
+// The fleet's status document, for `tarnel --status`.
+InstanceAnswer statusRequest(AppServices& services);
+
+// The handlers both kinds of instance serve: import and status.
+void serveRequests(InstanceChannel& channel, AppServices& services);
+
 // A later launch's request to the instance that holds `lock`, over the channel it serves.
 InstanceAnswer askHolder(const InstanceLock& lock, InstanceRequestKind kind,
                          const std::string& payload);

@@ -11,6 +11,7 @@
 #include "app/instance_channel.h"
 #include "app/instance_lock.h"
 #include "app/instance_requests.h"
+#include "app/status_command.h"
 #include "app/stop_signals.h"
 #include "app/tray_application.h"
 #include "connections/connection_config_json.h"
@@ -50,6 +51,7 @@ int main(int argc, char** argv) {
         }
         return 0;
     }
+    if (options.status) return runStatusCommand(paths, options.json);
     if (!options.headless && !options.importFile)
         return runTrayApplication(argc, argv, paths, blockStopSignals());
 
@@ -119,8 +121,7 @@ int main(int argc, char** argv) {
             LogLevel::warning);
 
     InstanceChannel channel(paths.instanceSocket);
-    channel.setHandler(InstanceRequestKind::import,
-                       [&](const std::string& payload) { return importRequest(services, payload); });
+    serveRequests(channel, services);
     listenForLaterLaunches(channel, services.logService());
 
     QSocketNotifier stopNotifier(signals, QSocketNotifier::Read);

@@ -46,9 +46,7 @@ int runTrayApplication(int argc, char** argv, const AppPaths& paths, int stopSig
         delegate.showPopover();
         return InstanceAnswer{true, {}};
     });
-    channel.setHandler(InstanceRequestKind::import, [&delegate](const std::string& payload) {
-        return importRequest(delegate.services(), payload);
-    });
+    serveRequests(channel, delegate.services());
     listenForLaterLaunches(channel, delegate.services().logService());
 
     // A stop from the session or `kill` quits as the menu's Quit does: the fleet stops and the
