@@ -42,6 +42,7 @@ public:
     HistoryService& historyService() { return historyService_; }
     SoundPlayer& soundPlayer() { return *soundPlayer_; }
     const Clock& clock() const { return clock_; }
+    MainLoop& loop() { return loop_; }
 
     // Stops the fleet, ends the transfers under way (their temporary files and records are what
     // the next start resumes from), and waits until the log, the history, the partial records

@@ -8,9 +8,11 @@
 #include "app/app_services.h"
 #include "app/command_line.h"
 #include "app/connection_import.h"
+#include "app/fleet_status.h"
 #include "app/instance_channel.h"
 #include "app/instance_lock.h"
 #include "app/instance_requests.h"
+#include "app/service_manager.h"
 #include "app/status_command.h"
 #include "app/stop_signals.h"
 #include "app/tray_application.h"
@@ -97,8 +99,9 @@ int main(int argc, char** argv) {
     }
     std::function<void(const std::string&)> echo;
     if (options.headless) {
-        echo = [](const std::string& line) {
-            std::fputs((line + "\n").c_str(), stdout);
+        // Under systemd the journal takes the line's level from its prefix.
+        echo = [journal = standardOutputIsJournal()](const std::string& line) {
+            std::fputs(((journal ? withJournalPriority(line) : line) + "\n").c_str(), stdout);
             std::fflush(stdout);
         };
     }
@@ -124,12 +127,19 @@ int main(int argc, char** argv) {
     serveRequests(channel, services);
     listenForLaterLaunches(channel, services.logService());
 
+    ServiceManager serviceManager(services.loop(), [&services] {
+        return statusSummary(fleetStatus(services.manager(), services.historyService(),
+                                         services.statsService(), services.clock()));
+    });
+    serviceManager.ready();
+
     QSocketNotifier stopNotifier(signals, QSocketNotifier::Read);
     QObject::connect(&stopNotifier, &QSocketNotifier::activated, &app, [&] {
         services.logService().log(takeStopSignal(signals));
         QCoreApplication::quit();
     });
     const int status = app.exec();
+    serviceManager.stopping();
     services.shutdown();
     return status;
 }
