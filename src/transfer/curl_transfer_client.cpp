@@ -209,7 +209,7 @@ void CurlTransferClient::stop() {
 }
 
 CURLcode CurlTransferClient::run(const std::shared_ptr<Operation>& op) {
-    return waitForResult([&](SessionDriver::Done done) {
+    return drivers_.waitForResult([&](SessionDriver::Done done) {
         launch(op, [done = std::move(done)](Operation&, CURLcode code) { done(code); });
     });
 }
@@ -370,7 +370,7 @@ void CurlTransferClient::probeConnection() {
     curl_easy_setopt(h, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, discardBytes);
     const CURLcode code =
-        waitForResult([&](SessionDriver::Done done) { drivers_.start(session, std::move(done)); });
+        drivers_.waitForResult([&](SessionDriver::Done done) { drivers_.start(session, std::move(done)); });
     countConnections(h);
     // A refused login still proves that something answers on the port.
     if (code != CURLE_OK && code != CURLE_LOGIN_DENIED) {
