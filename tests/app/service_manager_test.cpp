@@ -74,6 +74,7 @@ TEST(ServiceManagerTest, ReadyStatusWatchdogFromTheLoopStoppingAndJournalLevels)
 
     // A loop that stands still sends nothing; once it goes on, the pings do too.
     tarnel.signal(SIGSTOP);
+    ::usleep(200'000);  // a ping already under way when it stopped arrives meanwhile
     systemd.take();
     ::usleep(600'000);
     EXPECT_FALSE(has(systemd.take(), "WATCHDOG=1"));
