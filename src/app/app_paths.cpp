@@ -32,13 +32,13 @@ AppPaths AppPaths::fromEnvironment() {
     const auto state = baseDirectory("XDG_STATE_HOME", ".local/state") / "Tarnel";
     AppPaths paths{config / "Tarnel" / "Tarnel.conf", config / "autostart" / "tarnel.desktop",
                    data / "history.json",             data / "partials.json",
-                   data / "known_hosts",              state / "Tarnel.log", {}, {}};
+                   data / "known_hosts",              state / "Tarnel.log",
+                   {config / "Tarnel" / "tarnel.lock", data / "tarnel.lock"}, {}};
     const char* runtime = std::getenv("XDG_RUNTIME_DIR");
     const std::filesystem::path runFolder =
         runtime && runtime[0] == '/' ? std::filesystem::path(runtime) : state / "run";
     const auto key = "tarnel" + storesKey(paths.settingsFile.string() + "\n" +
                                            data.string() + "\n" + paths.logFile.string());
-    paths.instanceLockFile = runFolder / (key + ".lock");
     paths.instanceSocket = runFolder / (key + ".sock");
     return paths;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <vector>
 
 namespace tarnel {
 
@@ -13,10 +14,11 @@ struct AppPaths {
     std::filesystem::path partialsFile;    // $XDG_DATA_HOME/Tarnel/partials.json
     std::filesystem::path knownHostsFile;  // $XDG_DATA_HOME/Tarnel/known_hosts
     std::filesystem::path logFile;         // $XDG_STATE_HOME/Tarnel/Tarnel.log
-    // One running fleet per set of stores: its lock and the socket later launches talk to, in
-    // $XDG_RUNTIME_DIR (or a private folder under the state folder when that is unset), named
-    // after the stores so that separate XDG setups never meet.
-    std::filesystem::path instanceLockFile;
+    // One running fleet per set of stores: a lock file beside the settings and beside the data
+    // stores, whatever the environment of the process, and the socket later launches talk to,
+    // in $XDG_RUNTIME_DIR (or a private folder under the state folder when that is unset),
+    // named after the stores. The lock's holder writes the socket's path into the lock files.
+    std::vector<std::filesystem::path> instanceLockFiles;
     std::filesystem::path instanceSocket;
 
     static AppPaths fromEnvironment();

@@ -38,10 +38,20 @@ AppServices::AppServices(const AppPaths& paths, std::unique_ptr<SoundPlayer> sou
         networkMonitor_.get(), sleepInhibitor_.get(), keyring_.get(), journal_});
 }
 
-AppServices::~AppServices() = default;
+AppServices::~AppServices() {
+    shutdown();
+}
 
 void AppServices::shutdown() {
+    if (shutDown_) return;
+    shutDown_ = true;
     manager_->stopAll();
+    // Transfers end where they are, their temporary files and records kept for the next start;
+    // a listing on a worker fails. Then no thread is left in an engine, and the polls that
+    // waited for them are freed here, while the stores and the log they use are still there.
+    manager_->endTransfers();
+    workers_.waitIdle();
+    loop_.abandonWork();
     // A password the keyring has not confirmed stays in the settings file: waiting longer only
     // delays the exit.
     keyring_->finish(std::chrono::seconds(10));

@@ -43,11 +43,12 @@ public:
     HistoryService& historyService() { return historyService_; }
     SoundPlayer& soundPlayer() { return *soundPlayer_; }
     const Clock& clock() const { return clock_; }
+    MainLoop& loop() { return loop_; }
 
-    // Stops the fleet and waits until the log, the history, the partial records and the
-    // passwords on their way into the keyring are stored.
-    // Transfers under way are not waited for: their temporary files and records are what the
-    // next start resumes from.
+    // Stops the fleet, ends the transfers under way (their temporary files and records are what
+    // the next start resumes from), and waits until the log, the history, the partial records
+    // and the passwords on their way into the keyring are stored. Once; the destructor calls it
+    // if nobody did.
     void shutdown();
 
 private:
@@ -70,6 +71,7 @@ private:
     std::unique_ptr<SleepInhibitor> sleepInhibitor_;
     std::unique_ptr<Keyring> keyring_;
     std::shared_ptr<ConnectionsManager> manager_;
+    bool shutDown_ = false;
 };
 
 }  // namespace tarnel

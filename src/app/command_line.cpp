@@ -12,6 +12,10 @@ CommandLine CommandLine::parse(int argc, char** argv) {
             c.headless = true;
         } else if (arg == "--list") {
             c.list = true;
+        } else if (arg == "--status") {
+            c.status = true;
+        } else if (arg == "--json") {
+            c.json = true;
         } else if (arg == "--help" || arg == "-h") {
             c.help = true;
         } else if (arg == "--import") {
@@ -27,11 +31,12 @@ CommandLine CommandLine::parse(int argc, char** argv) {
             return c;
         }
     }
+    if (c.json && !c.status) c.error = "--json goes with --status";
     return c;
 }
 
 std::string CommandLine::helpText() {
-    return R"(Usage: tarnel [--headless] [--import FILE] [--list]
+    return R"(Usage: tarnel [--headless] [--import FILE] [--list] [--status [--json]]
 
 Tarnel watches FTP, FTPS and SFTP folders and pulls each file once its size has settled.
 With no option it starts its tray application; a second launch shows the running one's popup.
@@ -52,6 +57,12 @@ With no option it starts its tray application; a second launch shows the running
                   --headless, Tarnel exits after the import. While Tarnel runs on the same
                   stores, the running one takes the records and answers.
   --list          Print the stored connections and exit, starting nothing.
+  --status        Ask the Tarnel running on these stores (headless or tray) how each
+                  connection is doing: its state, the last poll, the files waiting for their
+                  size to settle and those downloading, the last error, today's files and
+                  bytes; one line each, then one for all. With --json, one JSON document.
+                  Exit status 0 when all is well, 1 when a connection is in error, 3 when no
+                  Tarnel runs on these stores, 4 when the running one does not answer.
   --help          Show this text.
 
 Stores (set the XDG variables to keep a run apart):

@@ -6,6 +6,8 @@
 #include <optional>
 #include <thread>
 
+#include "platform/private_folder.h"
+
 namespace tarnel {
 
 namespace {
@@ -15,6 +17,7 @@ using nlohmann::json;
 constexpr std::pair<InstanceRequestKind, const char*> kindNames[] = {
     {InstanceRequestKind::import, "import"},
     {InstanceRequestKind::show, "show"},
+    {InstanceRequestKind::status, "status"},
 };
 
 const char* nameOf(InstanceRequestKind kind) {
@@ -45,6 +48,7 @@ void InstanceChannel::setHandler(InstanceRequestKind kind, Handler handler) {
 }
 
 bool InstanceChannel::listen(std::string& error) {
+    makePrivateFolder(socketFile_.parent_path());
     const QString name = QString::fromStdString(socketFile_.string());
     QLocalServer::removeServer(name);  // the holder of the lock owns the name
     server_.setSocketOptions(QLocalServer::UserAccessOption);

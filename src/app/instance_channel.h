@@ -13,6 +13,7 @@ namespace tarnel {
 enum class InstanceRequestKind {
     import,  // payload: a JSON array of connection records in the stored form
     show,    // payload: empty; the tray application raises its popup
+    status,  // payload: empty; the answer's text is the fleet's status document (fleet_status.h)
 };
 
 struct InstanceAnswer {

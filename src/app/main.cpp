@@ -8,9 +8,12 @@
 #include "app/app_services.h"
 #include "app/command_line.h"
 #include "app/connection_import.h"
+#include "app/fleet_status.h"
 #include "app/instance_channel.h"
 #include "app/instance_lock.h"
 #include "app/instance_requests.h"
+#include "app/service_manager.h"
+#include "app/status_command.h"
 #include "app/stop_signals.h"
 #include "app/tray_application.h"
 #include "connections/connection_config_json.h"
@@ -50,6 +53,7 @@ int main(int argc, char** argv) {
         }
         return 0;
     }
+    if (options.status) return runStatusCommand(paths, options.json);
     if (!options.headless && !options.importFile)
         return runTrayApplication(argc, argv, paths, blockStopSignals());
 
@@ -72,7 +76,7 @@ int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
 
     // One fleet per set of stores: a later launch hands its import to the running one.
-    const InstanceLock lock(paths.instanceLockFile);
+    const InstanceLock lock(paths.instanceLockFiles, paths.instanceSocket);
     if (lock.error()) {
         std::cerr << "tarnel: " << *lock.error() << "\nCheck that the folder is yours and writable.\n";
         return 2;
@@ -80,8 +84,8 @@ int main(int argc, char** argv) {
     if (!lock.held()) {
         bool importedThere = true;
         if (options.importFile) {
-            const auto answer = InstanceChannel::send(paths.instanceSocket, InstanceRequestKind::import,
-                                                      encodeConnectionList(imported));
+            const auto answer =
+                askHolder(lock, InstanceRequestKind::import, encodeConnectionList(imported));
             (answer.ok ? std::cout : std::cerr) << answer.text << "\n";
             importedThere = answer.ok;
         }
@@ -95,8 +99,9 @@ int main(int argc, char** argv) {
     }
     std::function<void(const std::string&)> echo;
     if (options.headless) {
-        echo = [](const std::string& line) {
-            std::fputs((line + "\n").c_str(), stdout);
+        // Under systemd the journal takes the line's level from its prefix.
+        echo = [journal = standardOutputIsJournal()](const std::string& line) {
+            std::fputs(((journal ? withJournalPriority(line) : line) + "\n").c_str(), stdout);
             std::fflush(stdout);
         };
     }
@@ -119,18 +124,22 @@ int main(int argc, char** argv) {
             LogLevel::warning);
 
     InstanceChannel channel(paths.instanceSocket);
-    channel.setHandler(InstanceRequestKind::import,
-                       [&](const std::string& payload) { return importRequest(services, payload); });
+    serveRequests(channel, services);
     listenForLaterLaunches(channel, services.logService());
+
+    ServiceManager serviceManager(services.loop(), [&services] {
+        return statusSummary(fleetStatus(services.manager(), services.historyService(),
+                                         services.statsService(), services.clock()));
+    });
+    serviceManager.ready();
 
     QSocketNotifier stopNotifier(signals, QSocketNotifier::Read);
     QObject::connect(&stopNotifier, &QSocketNotifier::activated, &app, [&] {
         services.logService().log(takeStopSignal(signals));
-        services.shutdown();
-        // Transfers still running end with the process; their temporary files and records
-        // are what the next start resumes from.
-        std::fflush(stdout);
-        std::_Exit(0);
+        QCoreApplication::quit();
     });
-    return app.exec();
+    const int status = app.exec();
+    serviceManager.stopping();
+    services.shutdown();
+    return status;
 }

@@ -18,13 +18,13 @@ namespace tarnel {
 int runTrayApplication(int argc, char** argv, const AppPaths& paths, int stopSignals) {
     QApplication app(argc, argv);
     // One fleet per set of stores: a second launch shows the running one's popup.
-    const InstanceLock lock(paths.instanceLockFile);
+    const InstanceLock lock(paths.instanceLockFiles, paths.instanceSocket);
     if (lock.error()) {
         std::cerr << "tarnel: " << *lock.error() << "\nCheck that the folder is yours and writable.\n";
         return 2;
     }
     if (!lock.held()) {
-        const auto answer = InstanceChannel::send(paths.instanceSocket, InstanceRequestKind::show, {});
+        const auto answer = askHolder(lock, InstanceRequestKind::show, {});
         if (!answer.ok) std::cerr << "tarnel: " << answer.text << "\n";
         return answer.ok ? 0 : 2;
     }
@@ -46,9 +46,7 @@ int runTrayApplication(int argc, char** argv, const AppPaths& paths, int stopSig
         delegate.showPopover();
         return InstanceAnswer{true, {}};
     });
-    channel.setHandler(InstanceRequestKind::import, [&delegate](const std::string& payload) {
-        return importRequest(delegate.services(), payload);
-    });
+    serveRequests(channel, delegate.services());
     listenForLaterLaunches(channel, delegate.services().logService());
 
     // A stop from the session or `kill` quits as the menu's Quit does: the fleet stops and the

@@ -262,6 +262,7 @@ void SyncEngine::endPoll() {
 void SyncEngine::folderFailure(const FTPError& error) {
     const std::string message = error.errorDescription();
     log(message, LogLevel::error);
+    lastError_.set(message);
     connectionState_.set(ConnectionState::error);
     statusText_.set(localized("Folder error"));
     services_.notifications.notifyLocalFolderProblem(config_.name, message);
@@ -273,6 +274,7 @@ void SyncEngine::pollFailure(const std::string& message) {
     log("Sync failed (" + std::to_string(n) + "/" + std::to_string(failureThreshold) +
             "): " + message,
         LogLevel::error);
+    lastError_.set(message);
     const int limit = std::max(services_.globalSettings.notifyErrorsAfterAttempts(), 1);
     connectionState_.set(ConnectionState::error);
     if (n < limit) {

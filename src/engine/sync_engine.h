@@ -74,6 +74,8 @@ public:
     const Observable<ConnectionState>& connectionState() const { return connectionState_; }
     const Observable<std::string>& statusText() const { return statusText_; }
     const Observable<std::optional<TimePoint>>& lastSyncTime() const { return lastSyncTime_; }
+    // What the last failed poll or folder check said; kept after later successes.
+    const Observable<std::optional<std::string>>& lastError() const { return lastError_; }
     const Observable<bool>& isPaused() const { return isPaused_; }
     const Observable<bool>& isSyncing() const { return isSyncing_; }
     const Observable<int>& trackedFileCount() const { return trackedFileCount_; }
@@ -161,6 +163,7 @@ private:
     Observable<ConnectionState> connectionState_{ConnectionState::idle};
     Observable<std::string> statusText_{"Idle"};
     Observable<std::optional<TimePoint>> lastSyncTime_;
+    Observable<std::optional<std::string>> lastError_;
     Observable<bool> isPaused_{false};
     Observable<bool> isSyncing_{false};
     Observable<int> trackedFileCount_{0};

@@ -61,9 +61,9 @@ ConnectionsManager::~ConnectionsManager() {
     if (networkMonitor_) networkMonitor_->cancel();
 }
 
-std::unique_ptr<RemoteService> ConnectionsManager::makeCurlRemote(
-    const ConnectionConfig& config) const {
+std::unique_ptr<RemoteService> ConnectionsManager::makeCurlRemote(const ConnectionConfig& config) {
     auto client = std::make_unique<CurlTransferClient>(config, services_.knownHostsFile);
+    madeClient_ = client.get();
     auto service = std::make_unique<FTPService>(config, services_.logService, std::move(client));
     return std::make_unique<FtpRemoteService>(services_.runtime, std::move(service));
 }
@@ -144,8 +144,11 @@ void ConnectionsManager::createEngine(const ConnectionConfig& config, bool start
     if (!tracker)
         tracker = std::make_shared<DownloadTracker>(partialTracker_->journal(),
                                                     services_.settingsStore, config.id.toString());
+    madeClient_ = nullptr;
     auto engine = std::make_shared<SyncEngine>(config, makeRemote_(config), tracker,
                                                engineServices_);
+    std::erase_if(transferClients_, [](const auto& entry) { return entry.first.expired(); });
+    if (madeClient_) transferClients_.emplace_back(engine, madeClient_);
     engine->setConnectionsManager(std::weak_ptr<FleetLink>(weak_from_this()));
     engines_[config.id] = engine;
 
@@ -244,6 +247,11 @@ void ConnectionsManager::stopAll() {
     activeBookmarks_.clear();
     activeRuleBookmarks_.clear();
     activeFallbackBookmarks_.clear();
+}
+
+void ConnectionsManager::endTransfers() {
+    for (const auto& [engine, client] : transferClients_)
+        if (!engine.expired()) client->stop();
 }
 
 void ConnectionsManager::pauseAll() {

@@ -25,6 +25,7 @@
 
 namespace tarnel {
 
+class CurlTransferClient;
 class Journal;
 class PartialDownloadTracker;
 
@@ -93,6 +94,9 @@ public:
 
     void startAll();
     void stopAll();
+    // At quit, after stopAll(): ends the transfers that engines stopped or replaced still run,
+    // leaving their temporary files for the next start. What awaited them never resumes.
+    void endTransfers();
     void pauseAll();
     void resumeAll();
     void syncAllNow();
@@ -151,7 +155,7 @@ private:
     void passwordRead(const Uuid& id, const Keyring::Reply& reply);
     const ConnectionConfig* findConnection(const Uuid& id) const;
     void recomputeAggregates();
-    std::unique_ptr<RemoteService> makeCurlRemote(const ConnectionConfig& config) const;
+    std::unique_ptr<RemoteService> makeCurlRemote(const ConnectionConfig& config);
     // Start-up: the grants of the stored folders, and a warning for each local folder without.
     void restoreFolderGrants();
     void startNetworkMonitor();
@@ -181,6 +185,10 @@ private:
     std::unordered_map<Uuid, bool> awaitingPassword_;  // engines to start, paused or not
 
     std::unordered_map<Uuid, std::shared_ptr<SyncEngine>> engines_;
+    // The libcurl client of each engine made here, while the engine lives: a stopped engine
+    // lives on in its running poll.
+    std::vector<std::pair<std::weak_ptr<SyncEngine>, CurlTransferClient*>> transferClients_;
+    CurlTransferClient* madeClient_ = nullptr;  // by the last makeCurlRemote()
     std::unordered_map<Uuid, std::shared_ptr<DownloadTracker>> downloadTrackers_;
     std::vector<Subscription> cancellables_;
 

@@ -52,6 +52,11 @@ bool WorkerPool::waitIdle(std::chrono::milliseconds timeout) {
     return idleChanged_.wait_for(lock, timeout, [this] { return idleLocked(); });
 }
 
+void WorkerPool::waitIdle() {
+    std::unique_lock lock(mutex_);
+    idleChanged_.wait(lock, [this] { return idleLocked(); });
+}
+
 void WorkerPool::run() {
     std::unique_lock lock(mutex_);
     for (;;) {

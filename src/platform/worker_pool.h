@@ -30,6 +30,8 @@ public:
     bool idle() const;
     // Blocks until idle() or `timeout` passes; returns idle().
     bool waitIdle(std::chrono::milliseconds timeout);
+    // Blocks until idle().
+    void waitIdle();
 
 private:
     void run();

@@ -303,13 +303,27 @@ void CurlTransferClient::announceSessionLimit() {
     }
 }
 
+void CurlTransferClient::stop() {
+    std::deque<std::shared_ptr<Operation>> waiting;
+    {
+        std::lock_guard lock(turnsMutex_);
+        waiting.swap(waiting_);
+    }
+    drivers_.stop();
+}
+
 void CurlTransferClient::run(const std::shared_ptr<Operation>& op) {
-    // Shared: the driver may still be inside set_value when the waiter has returned.
-    auto outcome = std::make_shared<std::promise<std::exception_ptr>>();
-    auto result = outcome->get_future();
-    op->done = [outcome](std::exception_ptr error) { outcome->set_value(std::move(error)); };
-    launch(op);
-    if (auto error = result.get()) std::rethrow_exception(error);
+    // Shared: at stop() the waiter returns while the operation may still be telling its end.
+    auto error = std::make_shared<std::exception_ptr>();
+    const CURLcode code = drivers_.waitForResult([&](SessionDriver::Done wake) {
+        op->done = [error, wake = std::move(wake)](std::exception_ptr e) {
+            *error = std::move(e);
+            wake(CURLE_OK);
+        };
+        launch(op);
+    });
+    if (code != CURLE_OK) throw failure(code);  // the drivers stopped: the program quits
+    if (*error) std::rethrow_exception(*error);
 }
 
 std::string CurlTransferClient::readText(const std::string& url, bool namesOnly, bool headersOnly) {
@@ -461,8 +475,8 @@ void CurlTransferClient::probeConnection() {
     curl_easy_setopt(h, CURLOPT_NOBODY, 1L);
     curl_easy_setopt(h, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, discardBytes);
-    const CURLcode code =
-        waitForResult([&](SessionDriver::Done done) { drivers_.start(session, std::move(done)); });
+    const CURLcode code = drivers_.waitForResult(
+        [&](SessionDriver::Done done) { drivers_.start(session, std::move(done)); });
     countConnections(h);
     // A refused login still proves that something answers on the port.
     if (code != CURLE_OK && code != CURLE_LOGIN_DENIED) {

@@ -84,6 +84,10 @@ public:
 
     // Drops the sessions kept open, so the next operation logs in afresh.
     void closeIdleConnections() { pool_.closeAll(); }
+    // At quit: ends every operation, running or waiting for its turn, without telling whoever
+    // asked for it, and refuses later ones the same way. A download's temporary file stays
+    // as far as it came, for the next start to resume; a blocking call fails.
+    void stop();
     // Connections libcurl has opened so far: a reused session opens none, though each FTP
     // transfer opens its data connection.
     std::int64_t connectionsOpened() const { return connectionsOpened_; }

@@ -186,15 +186,33 @@ void SessionDriver::finish(Operation& op, CURLcode code) {
     done(code);
 }
 
+// One result given once: by the operation, or by stop() if that comes first.
+struct SessionDrivers::Waiter {
+    std::promise<CURLcode> result;
+    std::atomic_flag given;
+    void give(CURLcode code) {
+        if (!given.test_and_set()) result.set_value(code);
+    }
+};
+
 SessionDrivers::~SessionDrivers() {
+    stop();
+}
+
+void SessionDrivers::stop() {
     std::vector<std::unique_ptr<SessionDriver>> drivers;
+    std::vector<std::shared_ptr<Waiter>> waiters;
     {
         std::lock_guard lock(mutex_);
         stopping_ = true;
         drivers.swap(drivers_);
+        waiters = waiters_;
     }
     // Joined unlocked: a driver's `done` may still be calling start().
     drivers.clear();
+    // An operation waited for may be kept by its waiter, and with it the `done` that would
+    // have answered: the answer comes from here instead.
+    for (const auto& waiter : waiters) waiter->give(CURLE_ABORTED_BY_CALLBACK);
 }
 
 void SessionDrivers::start(CurlSession& session, SessionDriver::Done done) {
@@ -212,12 +230,20 @@ void SessionDrivers::start(CurlSession& session, SessionDriver::Done done) {
     driver.start(session, std::move(done));
 }
 
-CURLcode waitForResult(const std::function<void(SessionDriver::Done)>& start) {
+CURLcode SessionDrivers::waitForResult(const std::function<void(SessionDriver::Done)>& start) {
     // Shared: the promise may still be busy setting the result when the waiter wakes.
-    auto result = std::make_shared<std::promise<CURLcode>>();
-    auto future = result->get_future();
-    start([result](CURLcode code) { result->set_value(code); });
-    return future.get();
+    auto waiter = std::make_shared<Waiter>();
+    auto future = waiter->result.get_future();
+    {
+        std::lock_guard lock(mutex_);
+        if (stopping_) return CURLE_ABORTED_BY_CALLBACK;
+        waiters_.push_back(waiter);
+    }
+    start([waiter](CURLcode code) { waiter->give(code); });
+    const CURLcode code = future.get();
+    std::lock_guard lock(mutex_);
+    std::erase(waiters_, waiter);
+    return code;
 }
 
 void SessionDriver::loop() {

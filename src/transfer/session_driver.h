@@ -84,7 +84,7 @@ private:
 class SessionDrivers {
 public:
     SessionDrivers() = default;
-    // Operations started later, from a driver's `done`, are dropped like those still running.
+    // stop().
     ~SessionDrivers();
     SessionDrivers(const SessionDrivers&) = delete;
     SessionDrivers& operator=(const SessionDrivers&) = delete;
@@ -92,15 +92,21 @@ public:
     // SessionDriver::start() on a driver with nothing to do: the caller's own, when a `done`
     // starts the next operation, so that no other thread need be woken for it.
     void start(CurlSession& session, SessionDriver::Done done);
+    // Runs `start`, which begins an operation that reports its result once, and waits for
+    // that result, or CURLE_ABORTED_BY_CALLBACK once the drivers stop. Not from a driver's thread.
+    CURLcode waitForResult(const std::function<void(SessionDriver::Done)>& start);
+    // Ends every operation still running without calling its `done`, and joins the drivers'
+    // threads; operations started later, from a `done` or another thread, are dropped the same
+    // way. A waitForResult() under way returns at once.
+    void stop();
 
 private:
+    struct Waiter;
+
     std::mutex mutex_;
     bool stopping_ = false;
     std::vector<std::unique_ptr<SessionDriver>> drivers_;
+    std::vector<std::shared_ptr<Waiter>> waiters_;
 };
-
-// Runs `start`, which begins an operation that reports its result once, and waits for that
-// result. Not from a driver's thread.
-CURLcode waitForResult(const std::function<void(SessionDriver::Done)>& start);
 
 }  // namespace tarnel

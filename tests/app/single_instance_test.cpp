@@ -3,6 +3,7 @@
 #include <signal.h>
 
 #include <fstream>
+#include <map>
 #include <nlohmann/json.hpp>
 
 #include "connections/connection_config_json.h"
@@ -59,7 +60,12 @@ struct SingleInstanceTest : ::testing::Test {
     }
 };
 
+// The first runs with a runtime folder, as in a desktop session; the later launches without
+// one, as from cron or sudo: they still meet it on the same stores.
 TEST_F(SingleInstanceTest, ASecondHeadlessIsRefusedAndAnImportIsHandedToTheRunningOne) {
+    fs::create_directories(dir / "runtime");
+    fs::permissions(dir / "runtime", fs::perms::owner_all);
+    first.addEnvironment("XDG_RUNTIME_DIR=" + (dir / "runtime").string());
     startFirst();
     auto second = later.run({"--headless"});
     EXPECT_EQ(second.exitCode, 2);
@@ -114,10 +120,52 @@ TEST_F(SingleInstanceTest, ALockLeftByAKilledInstanceDoesNotStopTheNextStart) {
     EXPECT_EQ(first.wait(), 0);
 }
 
+// `--status` asks the running fleet; a connection in error makes it exit 1, no fleet 3.
+TEST_F(SingleInstanceTest, StatusTellsEachConnectionAndExitsAfterTheFleetsHealth) {
+    TestServer server({ServerProtocol::sftp, dir / "server"});
+    std::ofstream(server.root() / "report.pdf") << "contents";
+    auto good = server.connectionConfig();
+    good.name = "Good";
+    good.localPath = (dir / "downloads").string();
+    good.pollInterval = 1;
+    good.requiredStableChecks = 0;
+    auto broken = good;
+    broken.id = Uuid::random();
+    broken.name = "Broken";
+    broken.port = 1;  // nothing listens there
+    EXPECT_EQ(later.run({"--status"}).exitCode, 3);
+    first.start({"--headless", "--import", writeImport("two.json", {good, broken}).string()});
+    ASSERT_TRUE(TarnelProcess::waitFor([&] {
+        return fs::exists(dir / "downloads" / "report.pdf") &&
+               first.logText().find("[Broken] Sync failed") != std::string::npos;
+    })) << first.logText();
+
+    const auto lines = later.run({"--status"});
+    EXPECT_EQ(lines.exitCode, 1) << lines.err;
+    EXPECT_NE(lines.out.find("Broken: error"), std::string::npos) << lines.out;
+    EXPECT_NE(lines.out.find("; last error: "), std::string::npos) << lines.out;
+    EXPECT_NE(lines.out.find("Good: "), std::string::npos) << lines.out;
+    const auto document = later.run({"--status", "--json"});
+    EXPECT_EQ(document.exitCode, 1);
+    const auto status = json::parse(document.out);
+    std::map<std::string, json> byName;
+    for (const auto& c : status["connections"]) byName[c["name"]] = c;
+    EXPECT_EQ(byName["Broken"]["state"], "error");
+    EXPECT_TRUE(byName["Broken"]["lastError"].is_string());
+    EXPECT_NE(byName["Good"]["state"], "error");
+    EXPECT_EQ(byName["Good"]["todayFiles"], 1);
+    EXPECT_EQ(status["todayFiles"], 1);
+
+    first.signal(SIGTERM);
+    EXPECT_EQ(first.wait(), 0);
+    const auto none = later.run({"--status"});
+    EXPECT_EQ(none.exitCode, 3);
+    EXPECT_NE(none.err.find("not running"), std::string::npos) << none.err;
+}
+
 // A lock that cannot be made must not read as another instance running.
 TEST_F(SingleInstanceTest, ALockFileThatCannotBeMadeIsSaidSo) {
-    fs::create_directories(first.home() / "state/Tarnel");
-    std::ofstream(first.home() / "state/Tarnel/run") << "a file where the lock's folder goes";
+    fs::create_directories(first.home() / "data/Tarnel/tarnel.lock");  // a folder where it goes
     auto refused = first.run({"--headless"});
     EXPECT_EQ(refused.exitCode, 2);
     EXPECT_NE(refused.err.find("cannot open the lock file"), std::string::npos) << refused.err;

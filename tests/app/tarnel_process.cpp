@@ -36,6 +36,7 @@ pid_t TarnelProcess::spawn(const std::vector<std::string>& args, const std::file
     env.push_back("XDG_CONFIG_HOME=" + (home_ / "config").string());
     env.push_back("XDG_DATA_HOME=" + (home_ / "data").string());
     env.push_back("XDG_STATE_HOME=" + (home_ / "state").string());
+    env.insert(env.end(), extraEnvironment_.begin(), extraEnvironment_.end());
     std::vector<std::string> argv{TARNEL_BINARY};
     argv.insert(argv.end(), args.begin(), args.end());
     return spawnChild(argv, env, "/dev/null", out, err);

@@ -35,6 +35,8 @@ public:
     // The session bus the program finds from its next start: none unless a test gives one, so
     // that a run never reaches the desktop's keyring or notifications.
     void useSessionBus(std::optional<std::string> address) { sessionBus_ = std::move(address); }
+    // A variable ("NAME=value") the program finds from its next start, beside the stores'.
+    void addEnvironment(std::string entry) { extraEnvironment_.push_back(std::move(entry)); }
 
     // Waits (for real: this is another process) until `done` holds, at most `limit`.
     static bool waitFor(const std::function<bool()>& done,
@@ -46,6 +48,7 @@ private:
 
     std::filesystem::path home_;
     std::optional<std::string> sessionBus_;
+    std::vector<std::string> extraEnvironment_;
     pid_t pid_ = -1;
 };
 

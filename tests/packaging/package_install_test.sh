@@ -96,9 +96,20 @@ for _ in $(seq 100); do
     sleep 0.1
 done
 grep -q 'No enabled connection' "$work/headless.log" || fail "tarnel --headless did not start: $(cat "$work/headless.log")"
+# Asked from outside the unit's environment (no runtime folder), --status still finds it.
+"${clean_env[@]:0:7}" tarnel --status >"$work/status.txt" 2>&1 ||
+    fail "tarnel --status while the fleet runs: status $?: $(cat "$work/status.txt")"
+grep -q '^0 connection(s); today 0 files' "$work/status.txt" || fail "tarnel --status said: $(cat "$work/status.txt")"
 kill -TERM "$headless"
 wait "$headless" || fail "tarnel --headless stopped with status $? on SIGTERM"
 headless=
+status=0
+"${clean_env[@]}" tarnel --status >/dev/null 2>&1 || status=$?
+[ "$status" = 3 ] || fail "tarnel --status with no fleet running: status $status, not 3"
+
+# systemd waits for the fleet's readiness and watches its loop; libsystemd comes with the package.
+grep -qx 'Type=notify' "$unit" && grep -q '^WatchdogSec=' "$unit" || fail "the unit is not Type=notify with a watchdog"
+dpkg-deb -f "$deb" Depends | grep -q 'libsystemd0' || fail "the package does not depend on libsystemd0"
 
 verify=$(systemd-analyze verify "$unit" 2>&1) || fail "systemd-analyze verify: $verify"
 [ -z "$verify" ] || fail "systemd-analyze verify warns: $verify"

@@ -1,5 +1,6 @@
 #include "platform/qt/qt_main_loop.h"
 
+#include <QCoreApplication>
 #include <QMetaObject>
 #include <QPointer>
 #include <QTimer>
@@ -25,6 +26,12 @@ private:
 QtMainLoop::QtMainLoop() = default;
 
 QtMainLoop::~QtMainLoop() {
+    destroyDetached();
+}
+
+void QtMainLoop::abandonWork() {
+    // First: a posted resumption of a frame freed below must never run.
+    QCoreApplication::removePostedEvents(&context_);
     destroyDetached();
 }
 

@@ -16,6 +16,10 @@ public:
     std::unique_ptr<Timer> startTimer(Duration interval, bool repeats,
                                       std::function<void()> fire) override;
 
+    // At quit, once no other thread can post any more: drops what was posted and not yet run,
+    // and frees the tasks still suspended while the services they point at are still there.
+    void abandonWork();
+
 private:
     QObject context_;
 };
