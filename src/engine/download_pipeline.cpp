@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <exception>
 #include <map>
 #include <system_error>
 
@@ -43,6 +44,21 @@ struct LocalFailure {
 
 void throwIfFailed(const std::error_code& ec, const std::string& what, const fs::path& path) {
     if (ec) throw LocalFailure{what + " '" + path.string() + "': " + ec.message()};
+}
+
+// The words of a failure of any kind.
+std::string failureText(const std::exception_ptr& error) {
+    try {
+        std::rethrow_exception(error);
+    } catch (const FTPError& e) {
+        return e.errorDescription();
+    } catch (const LocalFailure& e) {
+        return e.text;
+    } catch (const std::exception& e) {
+        return e.what();
+    } catch (...) {
+        return "an unexpected error";
+    }
 }
 
 void makeFolder(const fs::path& folder) {
@@ -319,28 +335,45 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         else
             partials.markPlaced(key, placed.string());
         moveFile(tempPath, placed);
-        if (matchedRule) applyFinderTags(placed, matchedRule->tagColor, matchedRule->tagName);
+
+        // Verified and in its folder, the file is downloaded: a step below that fails leaves it
+        // where it is under the name it has, and never fetches it again.
+        result.finalName = file.name;
+        result.size = local;
+        result.success = true;
+        const auto afterPlacing = [&](const std::string& step, auto&& run) {
+            try {
+                run();
+            } catch (...) {
+                log(step + " failed for " + key + ", it stays as " + placed.filename().string() +
+                        ": " + failureText(std::current_exception()),
+                    LogLevel::warning);
+            }
+        };
+        afterPlacing("Tagging", [&] {
+            if (matchedRule) applyFinderTags(placed, matchedRule->tagColor, matchedRule->tagName);
+        });
         log(std::string("Verified") + (resume ? " (resumed)" : "") + ": " + key + " \u2014 " +
             formatFileByteCount(local));
         if (config_.checksumVerification) log("MD5: " + key + " = " + computeMD5(placed));
 
-        const std::string newName = applyRenamePattern(config_, file.name, counter, clock);
-        if (newName != file.name) {
+        afterPlacing("Renaming", [&] {
+            const std::string newName = applyRenamePattern(config_, file.name, counter, clock);
+            if (newName == file.name) return;
             if (auto bad = remotePathProblem(newName)) throw LocalFailure{*bad};
             fs::path renamed = uniqueDestinationURL(placed.parent_path() / newName);
             if (!config_.deleteAfterDownload) partials.markPlaced(key, renamed.string());
             moveFile(placed, renamed);
             log("Renamed: " + file.name + " \u2192 " + renamed.filename().string());
             placed = renamed;
-        }
-        result.finalName = newName;
-        result.size = local;
-        result.success = true;
+            result.finalName = newName;
+        });
         // Booked now, before anything else can fail or the program end: a placed file is never
         // fetched again and always has its history entry.
         recordTransfer(result);
         if (!config_.deleteAfterDownload) placedRecords_.push_back(key);
-        if (config_.autoDecompress) decompressIfNeeded(placed);
+        if (config_.autoDecompress)
+            afterPlacing("Decompression", [&] { decompressIfNeeded(placed); });
 
         // The next file starts now: its download waits for a session only while every one is
         // busy, and takes over this delete's session the moment the delete is done.
@@ -372,18 +405,15 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
             log("Copied: " + key + " \u2192 " + folder, LogLevel::success);
         }
         co_return result;
-    } catch (const FTPError& e) {
-        failure = e.errorDescription();
-    } catch (const LocalFailure& e) {
-        failure = e.text;
-    } catch (const std::exception& e) {
-        failure = e.what();
     } catch (...) {
-        failure = "an unexpected error";
+        failure = failureText(std::current_exception());
     }
 
     // A failure after the file was placed (the remote delete's folder walk) leaves it placed.
-    if (result.success) co_return result;
+    if (result.success) {
+        log("After placing " + key + ": " + *failure, LogLevel::warning);
+        co_return result;
+    }
     auto rows = activeDownloads_();
     std::erase_if(rows, [&](const DownloadProgress& r) {
         return r.fileName == file.name && r.connectionName == config_.name;

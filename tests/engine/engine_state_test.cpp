@@ -265,6 +265,31 @@ TEST_F(EngineStateTest, FailuresOfAnyKindFailOneFileOrOnePollAndTheEngineGoesOn)
     EXPECT_EQ(engine->totalTransferred()(), 2);
 }
 
+// Once verified and in its folder a file is downloaded: a rename that cannot be made (a name
+// past 255 bytes) leaves it there under its first name, booked once and deleted on the server.
+TEST_F(EngineStateTest, AStepAfterPlacingThatFailsLeavesTheFileOnceUnderTheNameItHas) {
+    config.requiredStableChecks = 0;
+    config.deleteAfterDownload = true;
+    config.renamePattern = std::string(300, 'x') + "_{original}";
+    server->files = {{"report.csv", "data"}};
+    auto engine = makeEngine();
+    engine->start();
+    for (int poll = 0; poll < 4; ++poll) loop.advance(30s);
+
+    std::vector<std::string> arrived;
+    for (const auto& entry : fs::directory_iterator(dir / "inbox"))
+        arrived.push_back(entry.path().filename().string());
+    std::sort(arrived.begin(), arrived.end());
+    EXPECT_EQ(arrived, std::vector<std::string>{"report.csv"});
+    EXPECT_TRUE(server->files.empty());
+    EXPECT_TRUE(hasLogLine("WARN [Test] Renaming failed for report.csv, it stays as report.csv: "));
+    EXPECT_TRUE(hasLogLine("File name too long"));
+    EXPECT_FALSE(hasLogLine("ERR "));
+    ASSERT_EQ(history.entries()().size(), 1u);
+    EXPECT_EQ(history.entries()()[0].finalFilename, "report.csv");
+    EXPECT_EQ(engine->totalTransferred()(), 1);
+}
+
 TEST_F(EngineStateTest, RetryWaitsPastTheTwentiethAttemptAreToldWhole) {
     config.requiredStableChecks = 0;
     config.maxRetries = 50;  // beyond what a stored record may hold
