@@ -98,7 +98,7 @@ void SyncEngine::recordAhead(const std::vector<TrackedFile>& files, std::size_t 
         const TrackedFile& file = files[i];
         const std::string key = trackingKey(file.name, file.relativePath);
         // A record of an earlier attempt decides on resuming; the transfer reads it then.
-        if (partials.partial(key)) continue;
+        if (ownPartial(key)) continue;
         const Placement placement = placementOf(file);
         if (placement.refusal || placement.ignoredByRouting) continue;
         const auto tempPath =
@@ -107,6 +107,12 @@ void SyncEngine::recordAhead(const std::vector<TrackedFile>& files, std::size_t 
         recordedAhead_.insert_or_assign(key, tempPath);
     }
     partials.record(records);
+}
+
+std::optional<PartialDownload> SyncEngine::ownPartial(const std::string& key) const {
+    auto record = services_.partialTracker.partial(key);
+    if (record && record->connectionId != config_.id.toString()) return std::nullopt;
+    return record;
 }
 
 SyncEngine::Placement SyncEngine::placementOf(const TrackedFile& file) const {
@@ -244,8 +250,18 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         bool resume = false;
         std::int64_t offset = 0;
         if (config_.maxResumeAttempts >= 1 && !recordedAhead) {
-            if (auto record = partials.partial(key)) {
+            if (auto record = ownPartial(key)) {
                 std::error_code ec;
+                // Temporary files of top-level files once had no tag: such a file is taken over
+                // under its present name by the connection whose record names it.
+                const fs::path untagged = fs::path(folder) / (file.name + ".tarnel-partial");
+                if (record->localTempPath == untagged.string() && !fs::exists(tempPath, ec)) {
+                    fs::rename(untagged, tempPath, ec);
+                    if (!ec) {
+                        record->localTempPath = tempPath.string();
+                        partials.record(*record);
+                    }
+                }
                 if (record->localTempPath != tempPath.string() || !fs::exists(tempPath, ec)) {
                     partials.remove(key);
                 } else {

@@ -290,6 +290,38 @@ TEST_F(EngineStateTest, AStepAfterPlacingThatFailsLeavesTheFileOnceUnderTheNameI
     EXPECT_EQ(engine->totalTransferred()(), 1);
 }
 
+// Two connections place one name into one folder: neither resumes the other's temporary file,
+// even one named as before names carried the connection.
+TEST_F(EngineStateTest, TwoConnectionsWithOneNameInOneFolderKeepTheirOwnBytes) {
+    config.requiredStableChecks = 0;
+    server->files = {{"report.csv", "AAAAAAAAAA"}};
+    ConnectionConfig other = config;
+    other.id = Uuid::random();
+    other.name = "Other";
+    auto otherServer = std::make_shared<MemoryServer>();
+    otherServer->files = {{"report.csv", "BBBBBBBBBB"}};
+    // What a cut download of the first connection left: four bytes and their record.
+    const auto inbox = dir / "inbox";
+    const auto cut = inbox / "report.csv.tarnel-partial";
+    fs::create_directories(inbox);
+    std::ofstream(cut) << "AAAA";
+    partials.record({"report.csv", cut.string(), 10, 4, config.id.toString(), {}, {}, 0, ""});
+
+    auto second = std::make_shared<SyncEngine>(
+        other, std::make_unique<MemoryRemote>(loop, otherServer),
+        std::make_unique<DownloadTracker>(settingsStore, other.id.toString()), engineServices());
+    second->start();
+    loop.advance(30s);
+    auto first = makeEngine();
+    first->start();
+    loop.advance(30s);
+
+    EXPECT_EQ(readFile(inbox / "report.csv"), "BBBBBBBBBB");
+    EXPECT_EQ(readFile(inbox / "report (1).csv"), "AAAAAAAAAA");
+    // Its record taken by the other connection's download, the cut file goes at the next sweep.
+    EXPECT_EQ(partials.orphanedFiles(inbox), std::vector<fs::path>{cut});
+}
+
 TEST_F(EngineStateTest, RetryWaitsPastTheTwentiethAttemptAreToldWhole) {
     config.requiredStableChecks = 0;
     config.maxRetries = 50;  // beyond what a stored record may hold

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <set>
 
+#include "engine/destination.h"
 #include "engine/ftp_remote_service.h"
 #include "engine/md5.h"
 #include "engine_fixture.h"
@@ -146,7 +147,10 @@ TEST_F(EngineTransferFtpTest, ACutResumeIsResumedAgainAndAChangedFileIsFetchedWh
     loop.advance(10s);
     EXPECT_TRUE(hasLogLine("[Test] Resuming: big.bin from 100 KB (attempt 1/5)"));
     EXPECT_TRUE(hasLogLine("ERR [Test] Failed: big.bin"));
-    EXPECT_EQ(fs::file_size(dir / "inbox" / "big.bin.tarnel-partial"), 250'000u);
+    // Named as before names carried the connection, the file went on under its present name.
+    EXPECT_FALSE(fs::exists(dir / "inbox" / "big.bin.tarnel-partial"));
+    EXPECT_EQ(fs::file_size(partialFileURL(dir / "inbox", "big.bin", config.id.toString(), "big.bin")),
+              250'000u);
 
     server.cutTransfersAfter(std::nullopt);
     loop.advance(10s);
@@ -179,7 +183,8 @@ TEST_F(EngineTransferFtpTest, SizeMismatchAndEmptyFiles) {
     EXPECT_TRUE(hasLogLine("ERR [Test] Size mismatch: grows.csv \u2014 remote: 10 bytes, local: 13 bytes"));
     EXPECT_TRUE(hasLogLine("ERR [Test] Empty file after download: empty.txt"));
     EXPECT_TRUE(hasLogLine("WARN [Test] Will retry grows.csv in 5s (attempt 1/10)"));
-    EXPECT_FALSE(fs::exists(dir / "inbox" / "empty.txt.tarnel-partial"));
+    EXPECT_FALSE(
+        fs::exists(partialFileURL(dir / "inbox", "empty.txt", config.id.toString(), "empty.txt")));
 
     // The listing now gives 13: the count restarts, the bigger partial is dropped, all fetched.
     loop.advance(10s);

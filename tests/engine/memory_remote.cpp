@@ -32,8 +32,13 @@ Task<std::vector<FTPFileEntry>> MemoryRemote::collectFiles(std::string, int,
 Task<void> MemoryRemote::downloadFile(std::string name, std::filesystem::path to,
                                       std::int64_t resumeFrom, ProgressCallback onProgress,
                                       std::optional<std::string>) {
-    // The engine names the temporary file: the remote file is the name without its suffix.
+    // The engine names the temporary file: the remote file is the name without its suffix and
+    // the tag before it, "name.0123456789ab.tarnel-partial".
     if (name.ends_with(".tarnel-partial")) name.resize(name.size() - 15);
+    const auto dot = name.rfind('.');
+    if (dot != std::string::npos && name.size() - dot == 13 &&
+        name.find_first_not_of("0123456789abcdef", dot + 1) == std::string::npos)
+        name.resize(dot);
     if (server_->beforeDownload) server_->beforeDownload(name);
     auto it = server_->files.find(name);
     if (it == server_->files.end()) throw FTPError::curlExitCode(78, "no such file");
