@@ -83,7 +83,7 @@ Task<std::vector<TransferResult>> SyncEngine::downloadStableFiles(std::vector<Tr
     co_return co_await slidingWindow<TransferResult>(
         services_.runtime.loop, stable, config_.maxConcurrentDownloads,
         [this, &stable, &started](const TrackedFile& file, WindowSlot slot) {
-            if (started % recordsWrittenAhead == 0) recordAhead(stable, started);
+            if (!stopped_ && started % recordsWrittenAhead == 0) recordAhead(stable, started);
             ++started;
             return transferFile(file, ++renameCounter_, std::move(slot));
         });
@@ -208,6 +208,11 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
     const std::string key = trackingKey(file.name, file.relativePath);
     TransferResult result{file.name, file.name, file.size, false, config_.localPath,
                           std::nullopt, key, false, false};
+    // A stopped engine (replaced or removed) begins nothing: its successor takes the file up.
+    if (stopped_) {
+        result.wasDeferred = true;
+        co_return result;
+    }
 
     // Whatever fails in here, of whatever kind, fails this file and nothing more.
     std::optional<std::string> failure;
@@ -236,6 +241,12 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         const auto claim = partials.claimForWriting(tempPath);
         if (!claim) {
             log("Still being written by an earlier transfer, left for the next poll: " + key);
+            result.wasDeferred = true;
+            co_return result;
+        }
+        // That transfer may have placed it since this poll listed it.
+        if (downloadTracker_->isDownloaded(key, file.size)) {
+            log("Placed meanwhile by an earlier transfer: " + key);
             result.wasDeferred = true;
             co_return result;
         }

@@ -176,6 +176,8 @@ private:
     std::unordered_map<std::string, RetryInfo> retryState_;
     std::unique_ptr<Timer> timer_;
     bool syncInProgress_ = false;
+    // Set by stop(): the running poll ends the transfers it has begun and starts no other.
+    bool stopped_ = false;
     int renameCounter_ = 0;
     int consecutiveFailures_ = 0;
     std::vector<std::string> dynamicSelectedPaths_;
