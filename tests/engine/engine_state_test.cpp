@@ -159,6 +159,7 @@ TEST_F(EngineStateTest, FilesSettleOverPollsAndFilteredOnesAreNeverTracked) {
                      {"tiny.jpg", "123"},
                      {"empty.jpg", ""},
                      {"b.jpg.tarnel-partial", std::string(50, 'b')},
+                     {"c.jpg.filepart", std::string(50, 'c')},  // another client's upload
                      {"x.tmp", std::string(50, 'x')}};
     auto engine = makeEngine();
 
