@@ -35,6 +35,7 @@
 #include "engine/sync_engine.h"
 #include "connections/connection_config_json.h"
 #include "fleet/connections_manager.h"
+#include "platform/posix/group_file_syncer.h"
 #include "platform/qt/qt_main_loop.h"
 #include "platform/sleep_monitor.h"
 #include "platform/sound_player.h"
@@ -173,6 +174,7 @@ struct Bench {
     NotificationService notifications{settings, silent};
     ManualSleepMonitor sleep;
     PartialDownloadTracker partials{dir / "partials.json", &loop};
+    GroupFileSyncer syncer{runtime};
 
     explicit Bench(fs::path place = "/dev/shm/tarnel-bench") : dir(std::move(place)) {
         settings.setDiskSpaceWarningEnabled(false);
@@ -186,7 +188,7 @@ struct Bench {
             config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
             std::make_unique<DownloadTracker>(store, config.id.toString()),
             EngineServices{runtime, log, stats, history, settings, partials, notifications, sleep,
-                           silent});
+                           silent, syncer});
         const auto start = Clock::now();
         spawn(loop, engine->pollOnce());
         loop.runUntilIdle();

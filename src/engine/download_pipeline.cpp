@@ -11,6 +11,7 @@
 
 #include "connections/routing.h"
 #include "engine/destination.h"
+#include "platform/file_syncer.h"
 #include "platform/foundation_path.h"
 #include "connections/finder_tags.h"
 #include "engine/md5.h"
@@ -407,10 +408,18 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         slot.release();
         if (config_.deleteAfterDownload) {
             std::optional<std::string> deleteError;
+            // The source goes only once the placed file is safe on disk.
             try {
-                co_await ftpService_->deleteFile(key);
-            } catch (const FTPError& e) {
-                deleteError = e.errorDescription();
+                co_await services_.fileSyncer.makeDurable(placed);
+            } catch (...) {
+                deleteError = failureText(std::current_exception());
+            }
+            if (!deleteError) {
+                try {
+                    co_await ftpService_->deleteFile(key);
+                } catch (const FTPError& e) {
+                    deleteError = e.errorDescription();
+                }
             }
             if (deleteError) {
                 // Still counted as downloaded: a server that refuses deletes never fills the disk

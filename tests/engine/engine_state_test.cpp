@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <stdexcept>
 
@@ -323,6 +324,35 @@ TEST_F(EngineStateTest, TwoConnectionsWithOneNameInOneFolderKeepTheirOwnBytes) {
     EXPECT_EQ(partials.orphanedFiles(inbox), std::vector<fs::path>{cut});
 }
 
+// A file moved off the server is on disk, under its final name, before its delete is sent; one
+// that cannot be made so stays on the server, and is not fetched again.
+TEST_F(EngineStateTest, TheSourceIsDeletedOnlyOnceThePlacedFileIsOnDisk) {
+    config.requiredStableChecks = 0;
+    config.deleteAfterDownload = true;
+    config.renamePattern = "done_{original}";
+    server->files = {{"a.bin", "alpha"}, {"b.bin", "bravo"}};
+    syncer.hold = true;
+    auto engine = makeEngine();
+    engine->start();
+    loop.advance(30s);
+    EXPECT_EQ(syncer.heldCount(), 2u);
+    EXPECT_EQ(server->files.size(), 2u);
+    std::sort(syncer.files.begin(), syncer.files.end());
+    EXPECT_EQ(syncer.files, (std::vector<fs::path>{dir / "inbox" / "done_a.bin",
+                                                   dir / "inbox" / "done_b.bin"}));
+    syncer.release();
+    loop.runUntilIdle();
+    EXPECT_TRUE(server->files.empty());
+
+    syncer.hold = false;
+    syncer.failure = "disk gone";
+    server->files = {{"c.bin", "charlie"}};
+    for (int poll = 0; poll < 3; ++poll) loop.advance(30s);
+    EXPECT_TRUE(hasLogLine("WARN [Test] Downloaded OK but delete failed: c.bin \u2014 disk gone"));
+    EXPECT_EQ(server->files.size(), 1u);
+    EXPECT_EQ(countLogLines("Verified: c.bin"), 1);
+}
+
 TEST_F(EngineStateTest, RetryWaitsPastTheTwentiethAttemptAreToldWhole) {
     config.requiredStableChecks = 0;
     config.maxRetries = 50;  // beyond what a stored record may hold
@@ -366,7 +396,7 @@ TEST_F(EngineStateTest, AFilePlacedByARunThatDiedIsBookedNotFetchedAgain) {
         config, std::make_unique<MemoryRemote>(loop, server),
         std::make_unique<DownloadTracker>(settingsStore, config.id.toString()),
         EngineServices{runtime, logService, stats, history, settings, reloaded, notifications,
-                       sleepMonitor, soundPlayer});
+                       sleepMonitor, soundPlayer, syncer});
     engine->start();
     loop.advance(30s);
     EXPECT_TRUE(hasLogLine("[Test] Placed before the last stop, booked now: a.txt \u2192 a.txt"));

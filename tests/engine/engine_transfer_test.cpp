@@ -7,6 +7,7 @@
 #include "engine/destination.h"
 #include "engine/ftp_remote_service.h"
 #include "engine/md5.h"
+#include "platform/posix/group_file_syncer.h"
 #include "engine_fixture.h"
 #include "servers/test_server.h"
 #include "transfer/curl_transfer_client.h"
@@ -30,13 +31,15 @@ struct EngineTransferTest : EngineFixture, ::testing::WithParamInterface<ServerP
         return *ftp;
     }
 
-    std::shared_ptr<SyncEngine> makeServerEngine() {
+    // With the fixture's syncer, or `fileSyncer`.
+    std::shared_ptr<SyncEngine> makeServerEngine(FileSyncer* fileSyncer = nullptr) {
         auto client = std::make_unique<CurlTransferClient>(config, dir / "known_hosts");
         auto service = std::make_unique<FTPService>(config, logService, std::move(client));
         return std::make_shared<SyncEngine>(
             config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
             std::make_unique<DownloadTracker>(settingsStore, config.id.toString()),
-            engineServices());
+            EngineServices{runtime, logService, stats, history, settings, partials, notifications,
+                           sleepMonitor, soundPlayer, fileSyncer ? *fileSyncer : syncer});
     }
 
     void serve(const std::string& path, const std::string& content) {
@@ -168,6 +171,40 @@ TEST_F(EngineTransferFtpTest, ACutResumeIsResumedAgainAndAChangedFileIsFetchedWh
     EXPECT_TRUE(hasLogLine("[Test] Remote file changed, discarding partial: next.bin"));
     EXPECT_EQ(readFile(dir / "inbox" / "next.bin"), changed);
     EXPECT_EQ(filesBelow(dir / "inbox"), (std::vector<std::string>{"big.bin", "next.bin"}));
+}
+
+// The program's syncer, against a real server: each moved file has been synced, under its final
+// name and whole, while its source was still on the server.
+TEST_F(EngineTransferFtpTest, MovedFilesAreSyncedByTheGroupSyncerBeforeTheirSourceGoes) {
+    auto& server = startServer();
+    config.requiredStableChecks = 0;
+    config.renamePattern = "done_{original}";
+    std::vector<std::string> names;
+    for (int i = 0; i < 12; ++i) {
+        names.push_back("f" + std::to_string(i) + ".bin");
+        serve(names.back(), pattern(20'000 + i));
+    }
+    struct Spy final : FileSyncer {
+        Spy(Runtime& runtime, fs::path root) : real(runtime), serverRoot(std::move(root)) {}
+        GroupFileSyncer real;
+        fs::path serverRoot;
+        std::vector<std::string> synced;  // names whose source was still there
+        Task<void> makeDurable(fs::path file) override {
+            co_await real.makeDurable(file);
+            const std::string name = file.filename().string().substr(5);  // after "done_"
+            if (fs::exists(serverRoot / name) && readFile(file) == readFile(serverRoot / name))
+                synced.push_back(name);
+        }
+    } spy{runtime, server.root()};
+    auto engine = makeServerEngine(&spy);
+    engine->start();
+    loop.advance(10s);
+
+    EXPECT_TRUE(filesBelow(server.root()).empty());
+    EXPECT_EQ(filesBelow(dir / "inbox").size(), names.size());
+    std::sort(spy.synced.begin(), spy.synced.end());
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(spy.synced, names);
 }
 
 TEST_F(EngineTransferFtpTest, SizeMismatchAndEmptyFiles) {
