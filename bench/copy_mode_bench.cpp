@@ -18,6 +18,7 @@
 #include "bench_support.h"
 #include "engine/ftp_remote_service.h"
 #include "engine/sync_engine.h"
+#include "platform/posix/group_file_syncer.h"
 #include "platform/sleep_monitor.h"
 #include "platform/testing/virtual_loop.h"
 #include "records/app_settings.h"
@@ -94,6 +95,7 @@ int copyMode(int count, bool withPeer) {
     NotificationService notifications{settings, silent};
     ManualSleepMonitor sleep;
     PartialDownloadTracker partials{journal, scratch / "partials.json", &loop};
+    GroupFileSyncer syncer{runtime};
     settings.setDiskSpaceWarningEnabled(false);
 
     config.name = "Copy";
@@ -111,7 +113,7 @@ int copyMode(int count, bool withPeer) {
         config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
         std::make_shared<DownloadTracker>(journal, store, config.id.toString()),
         EngineServices{runtime, log, stats, history, settings, partials, notifications, sleep,
-                       silent});
+                       silent, syncer});
 
     std::vector<bench::Clock::time_point> placed;
     placed.reserve(count);

@@ -4,12 +4,14 @@
 //                --Remove-source-files and rclone move --transfers 4. On the Python test
 //                servers, or (native-small-files) on a server as Debian ships it, over
 //                several rounds with the median of each contender; `only` names the one
-//                contender to run (tarnel, lftp or rclone), for profiling it alone.
+//                contender to run (tarnel, lftp or rclone; "all" for every one), for profiling
+//                it alone; `place` is the local folder the files land in (/dev/shm/... by
+//                default), to measure on a disk that must write them.
 //   large-file   one 1 GiB file through the engine, beside the curl tool.
 //   idle-fleet   50 connections polling an empty folder every 2 s: CPU per minute, memory.
 // Usage: fleet_bench small-files [ftp|sftp] [count] [folder]
 //        | native-small-files vsftpd|proftpd|pure_ftpd|proftpd_sftp|openssh [count] [rounds]
-//          [only]
+//          [only] [place]
 //        | large-file [ftp|sftp] [MiB] | idle-fleet - [seconds]
 #include <algorithm>
 #include <chrono>
@@ -31,6 +33,7 @@
 #include "engine/sync_engine.h"
 #include "connections/connection_config_json.h"
 #include "fleet/connections_manager.h"
+#include "platform/posix/group_file_syncer.h"
 #include "platform/qt/qt_main_loop.h"
 #include "platform/sleep_monitor.h"
 #include "platform/sound_player.h"
@@ -92,8 +95,8 @@ void fill(const fs::path& root, int count, std::size_t size) {
 
 // Everything an engine needs, on a loop that runs worker jobs for real.
 struct Bench {
-    // tmpfs: on this machine ext4 inode allocation slows with every create and delete, which
-    // would measure the disk's history rather than the programs.
+    // tmpfs by default: on this machine ext4 inode allocation slows with every create and
+    // delete, which would measure the disk's history rather than the programs.
     fs::path dir = "/dev/shm/tarnel-bench";
     WorkerPool workers;
     VirtualLoop loop{&workers};
@@ -107,8 +110,11 @@ struct Bench {
     NotificationService notifications{settings, silent};
     ManualSleepMonitor sleep;
     PartialDownloadTracker partials{dir / "partials.json", &loop};
+    GroupFileSyncer syncer{runtime};
 
-    Bench() { settings.setDiskSpaceWarningEnabled(false); }
+    explicit Bench(fs::path place = "/dev/shm/tarnel-bench") : dir(std::move(place)) {
+        settings.setDiskSpaceWarningEnabled(false);
+    }
 
     // One poll that fetches everything in the server's folder; its wall-clock seconds.
     double pollOnce(const ConnectionConfig& config) {
@@ -118,7 +124,7 @@ struct Bench {
             config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
             std::make_unique<DownloadTracker>(partials.journal(), store, config.id.toString()),
             EngineServices{runtime, log, stats, history, settings, partials, notifications, sleep,
-                           silent});
+                           silent, syncer});
         const auto start = Clock::now();
         spawn(loop, engine->pollOnce());
         loop.runUntilIdle();
@@ -214,7 +220,7 @@ int smallFiles(const Drop& drop, int count, int rounds, const fs::path& scratch,
     std::vector<Contender> contenders{
         {"tarnel engine",
          [&](const fs::path& target) {
-             Bench bench;
+             Bench bench{scratch / "engine"};
              auto config = engineConfig(drop.server, target);
              config.remotePath = drop.engineRemote;
              const double cpu = cpuSeconds();
@@ -235,7 +241,7 @@ int smallFiles(const Drop& drop, int count, int rounds, const fs::path& scratch,
                             target);
          }}};
 
-    if (!only.empty())
+    if (!only.empty() && only != "all")
         std::erase_if(contenders, [&](const Contender& c) { return !c.name.starts_with(only); });
     if (contenders.empty()) {
         std::fprintf(stderr, "fleet_bench: no contender named %s (tarnel, lftp or rclone)\n",
@@ -279,7 +285,7 @@ int smallFilesOnTestServer(ServerProtocol protocol, int count, const std::string
 
 // vsftpd, OpenSSH, ... as Debian ships them, not chrooted, from a sub-folder of the user's home.
 int smallFilesOnNativeServer(const std::string& name, int count, int rounds,
-                             const std::string& only) {
+                             const std::string& only, const fs::path& place) {
     using testing::NativeServer;
     using testing::NativeServerKind;
     std::optional<NativeServerKind> kind;
@@ -302,7 +308,7 @@ int smallFilesOnNativeServer(const std::string& name, int count, int rounds,
         smallFiles({config, folder, below,
                     config.transferProtocol == TransferProtocol::sftp ? folder.string() : below,
                     [folder] { NativeServer::handOver(folder.parent_path()); }},
-                   count, rounds, "/dev/shm/tarnel-bench", only);
+                   count, rounds, place, only);
     fs::remove_all(folder.parent_path());
     return status;
 }
@@ -399,7 +405,8 @@ int main(int argc, char** argv) {
     if (mode == "native-small-files")
         return smallFilesOnNativeServer(argc > 2 ? argv[2] : "", number > 0 ? number : 1000,
                                         argc > 4 ? std::max(1, std::atoi(argv[4])) : 1,
-                                        argc > 5 ? argv[5] : "");
+                                        argc > 5 ? argv[5] : "",
+                                        argc > 6 ? argv[6] : "/dev/shm/tarnel-bench");
     if (mode == "large-file")
         return largeFile(protocol, number > 0 ? number : 1024);
     if (mode == "idle-fleet")
@@ -407,7 +414,7 @@ int main(int argc, char** argv) {
     std::fprintf(
         stderr,
         "usage: fleet_bench small-files [ftp|sftp] [count] [folder] | native-small-files "
-        "vsftpd|proftpd|pure_ftpd|proftpd_sftp|openssh [count] [rounds] [only] | large-file [ftp|sftp] [MiB] | "
+        "vsftpd|proftpd|pure_ftpd|proftpd_sftp|openssh [count] [rounds] [only] [place] | large-file [ftp|sftp] [MiB] | "
         "idle-fleet - [seconds]\n");
     return 2;
 }

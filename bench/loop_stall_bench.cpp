@@ -21,6 +21,7 @@
 #include "engine/sync_engine.h"
 #include "platform/qt/qt_main_loop.h"
 #include "platform/settings_store.h"
+#include "platform/posix/group_file_syncer.h"
 #include "platform/sleep_monitor.h"
 #include "platform/sound_player.h"
 #include "records/app_settings.h"
@@ -168,6 +169,7 @@ int run(std::size_t mib, const fs::path& dir) {
     NotificationService notifications{settings, silent};
     ManualSleepMonitor sleep;
     PartialDownloadTracker partials{dir / "partials.json"};
+    GroupFileSyncer syncer{runtime};
     settings.setDiskSpaceWarningEnabled(false);
 
     ConnectionConfig config = server.connectionConfig();
@@ -183,7 +185,7 @@ int run(std::size_t mib, const fs::path& dir) {
         config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
         std::make_unique<DownloadTracker>(partials.journal(), store, config.id.toString()),
         EngineServices{runtime, log, stats, history, settings, partials, notifications, sleep,
-                       silent});
+                       silent, syncer});
 
     auto start = Steady::now();
     auto busy = std::make_unique<StallMeter>(loop, log);

@@ -19,7 +19,7 @@ enum class TransferProtocol { ftp, sftp, ftps };
 enum class SubdirectoryOrganization { mirrorStructure, flatAll, lastLevel, customPerFolder };
 
 inline constexpr const char* defaultExcludedExtensions =
-    "tmp, temp, part, crdownload, download, partial, thumbs.db, ds_store";
+    "tmp, temp, part, crdownload, download, partial, filepart, thumbs.db, ds_store";
 
 // The whole definition of one watched server. A plain value: copied, never shared; the engine
 // and the transfer service each hold their own copy. Fields in their stored order.

@@ -100,7 +100,8 @@ const std::vector<ExtensionCategory>& extensionCategories() {
          false},
         {"temp",
          localized("ext.cat.temp"),
-         {"tmp", "temp", "part", "crdownload", "download", "partial", "thumbs.db", "ds_store"},
+         {"tmp", "temp", "part", "crdownload", "download", "partial", "filepart", "thumbs.db",
+          "ds_store"},
          true},
     };
     return categories;

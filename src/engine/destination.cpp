@@ -131,7 +131,6 @@ std::filesystem::path uniqueDestinationURL(const std::filesystem::path& url) {
 std::filesystem::path partialFileURL(const std::filesystem::path& folder, const std::string& name,
                                      const std::string& connectionId,
                                      const std::string& trackingKey) {
-    if (trackingKey == name) return folder / (name + ".tarnel-partial");
     // FNV-1a: the tag only needs to tell apart the files of one folder, and to stay the same
     // from one run to the next, which std::hash does not promise.
     std::uint64_t hash = 0xcbf29ce484222325ULL;

@@ -29,12 +29,11 @@ std::string applyRenamePattern(const ConnectionConfig& config, const std::string
 // `url` if nothing is there, otherwise the first free "stem (n).ext" beside it.
 std::filesystem::path uniqueDestinationURL(const std::filesystem::path& url);
 
-// The temporary file a transfer writes in `folder` before the file is placed: the name and
-// ".tarnel-partial", with a tag of the connection and the tracking key between the two for a
-// file from a sub-folder. Two files of one name from two remote folders, which flat or routed
-// placing sends to one folder, never share one; the same file always gets the same one, so that
-// a restart finds it to resume. (Two connections that place one name into one folder take turns:
-// see PartialDownloadTracker::claimForWriting.)
+// The temporary file a transfer writes in `folder` before the file is placed: the name, a tag
+// of the connection and the tracking key, and ".tarnel-partial". Two connections that place one
+// name into one folder, and two files of one name from two remote folders that flat or routed
+// placing sends to one folder, never share one; the same file of the same connection always gets
+// the same one, so that a restart finds it to resume.
 std::filesystem::path partialFileURL(const std::filesystem::path& folder, const std::string& name,
                                      const std::string& connectionId,
                                      const std::string& trackingKey);

@@ -5,11 +5,13 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <exception>
 #include <map>
 #include <system_error>
 
 #include "connections/routing.h"
 #include "engine/destination.h"
+#include "platform/file_syncer.h"
 #include "platform/foundation_path.h"
 #include "connections/finder_tags.h"
 #include "engine/md5.h"
@@ -45,6 +47,21 @@ void throwIfFailed(const std::error_code& ec, const std::string& what, const fs:
     if (ec) throw LocalFailure{what + " '" + path.string() + "': " + ec.message()};
 }
 
+// The words of a failure of any kind.
+std::string failureText(const std::exception_ptr& error) {
+    try {
+        std::rethrow_exception(error);
+    } catch (const FTPError& e) {
+        return e.errorDescription();
+    } catch (const LocalFailure& e) {
+        return e.text;
+    } catch (const std::exception& e) {
+        return e.what();
+    } catch (...) {
+        return "an unexpected error";
+    }
+}
+
 void makeFolder(const fs::path& folder) {
     std::error_code ec;
     fs::create_directories(folder, ec);
@@ -67,7 +84,7 @@ Task<std::vector<TransferResult>> SyncEngine::downloadStableFiles(std::vector<Tr
     co_return co_await slidingWindow<TransferResult>(
         services_.runtime.loop, stable, config_.maxConcurrentDownloads,
         [this, &stable, &started](const TrackedFile& file, WindowSlot slot) {
-            if (started % recordsWrittenAhead == 0) recordAhead(stable, started);
+            if (!stopped_ && started % recordsWrittenAhead == 0) recordAhead(stable, started);
             ++started;
             return transferFile(file, ++renameCounter_, std::move(slot));
         });
@@ -82,7 +99,7 @@ void SyncEngine::recordAhead(const std::vector<TrackedFile>& files, std::size_t 
         const TrackedFile& file = files[i];
         const std::string key = trackingKey(file.name, file.relativePath);
         // A record of an earlier attempt decides on resuming; the transfer reads it then.
-        if (partials.partial(key)) continue;
+        if (ownPartial(key)) continue;
         const Placement placement = placementOf(file);
         if (placement.refusal || placement.ignoredByRouting) continue;
         const auto tempPath =
@@ -91,6 +108,12 @@ void SyncEngine::recordAhead(const std::vector<TrackedFile>& files, std::size_t 
         recordedAhead_.insert_or_assign(key, tempPath);
     }
     partials.record(records);
+}
+
+std::optional<PartialDownload> SyncEngine::ownPartial(const std::string& key) const {
+    auto record = services_.partialTracker.partial(key);
+    if (record && record->connectionId != config_.id.toString()) return std::nullopt;
+    return record;
 }
 
 SyncEngine::Placement SyncEngine::placementOf(const TrackedFile& file) const {
@@ -184,6 +207,11 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
     const std::string key = trackingKey(file.name, file.relativePath);
     TransferResult result{file.name, file.name, file.size, false, config_.localPath,
                           std::nullopt, key, false, false};
+    // A stopped engine (replaced or removed) begins nothing: its successor takes the file up.
+    if (stopped_) {
+        result.wasDeferred = true;
+        co_return result;
+    }
 
     // Whatever fails in here, of whatever kind, fails this file and nothing more.
     std::optional<std::string> failure;
@@ -215,6 +243,12 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
             result.wasDeferred = true;
             co_return result;
         }
+        // That transfer may have placed it since this poll listed it.
+        if (downloadTracker_->isDownloaded(key, file.size)) {
+            log("Placed meanwhile by an earlier transfer: " + key);
+            result.wasDeferred = true;
+            co_return result;
+        }
 
         // A record written ahead for this very temporary file stands for a fresh download.
         bool recordedAhead = false;
@@ -226,8 +260,18 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         bool resume = false;
         std::int64_t offset = 0;
         if (config_.maxResumeAttempts >= 1 && !recordedAhead) {
-            if (auto record = partials.partial(key)) {
+            if (auto record = ownPartial(key)) {
                 std::error_code ec;
+                // Temporary files of top-level files once had no tag: such a file is taken over
+                // under its present name by the connection whose record names it.
+                const fs::path untagged = fs::path(folder) / (file.name + ".tarnel-partial");
+                if (record->localTempPath == untagged.string() && !fs::exists(tempPath, ec)) {
+                    fs::rename(untagged, tempPath, ec);
+                    if (!ec) {
+                        record->localTempPath = tempPath.string();
+                        partials.record(*record);
+                    }
+                }
                 if (record->localTempPath != tempPath.string() || !fs::exists(tempPath, ec)) {
                     partials.remove(key);
                 } else {
@@ -317,7 +361,24 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         else
             partials.markPlaced(key, placed.string());
         moveFile(tempPath, placed);
-        if (matchedRule) applyFinderTags(placed, matchedRule->tagColor, matchedRule->tagName);
+
+        // Verified and in its folder, the file is downloaded: a step below that fails leaves it
+        // where it is under the name it has, and never fetches it again.
+        result.finalName = file.name;
+        result.size = local;
+        result.success = true;
+        const auto afterPlacing = [&](const std::string& step, auto&& run) {
+            try {
+                run();
+            } catch (...) {
+                log(step + " failed for " + key + ", it stays as " + placed.filename().string() +
+                        ": " + failureText(std::current_exception()),
+                    LogLevel::warning);
+            }
+        };
+        afterPlacing("Tagging", [&] {
+            if (matchedRule) applyFinderTags(placed, matchedRule->tagColor, matchedRule->tagName);
+        });
         log(std::string("Verified") + (resume ? " (resumed)" : "") + ": " + key + " \u2014 " +
             formatFileByteCount(local));
         if (config_.checksumVerification) {
@@ -325,33 +386,50 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
             log("MD5: " + key + " = " + digest);
         }
 
-        const std::string newName = applyRenamePattern(config_, file.name, counter, clock);
-        if (newName != file.name) {
+        afterPlacing("Renaming", [&] {
+            const std::string newName = applyRenamePattern(config_, file.name, counter, clock);
+            if (newName == file.name) return;
             if (auto bad = remotePathProblem(newName)) throw LocalFailure{*bad};
             fs::path renamed = uniqueDestinationURL(placed.parent_path() / newName);
             if (!config_.deleteAfterDownload) partials.markPlaced(key, renamed.string());
             moveFile(placed, renamed);
             log("Renamed: " + file.name + " \u2192 " + renamed.filename().string());
             placed = renamed;
-        }
-        result.finalName = newName;
-        result.size = local;
-        result.success = true;
+            result.finalName = newName;
+        });
         // Booked now, before anything else can fail or the program end: a placed file is never
         // fetched again and always has its history entry.
         recordTransfer(result);
         if (!config_.deleteAfterDownload) placedRecords_.push_back(key);
-        if (config_.autoDecompress) co_await decompressIfNeeded(placed);
+        if (config_.autoDecompress) {
+            // Its own failures are warnings already; anything else is one too.
+            try {
+                co_await decompressIfNeeded(placed);
+            } catch (...) {
+                log("Decompression failed for " + key + ", it stays as " +
+                        placed.filename().string() + ": " +
+                        failureText(std::current_exception()),
+                    LogLevel::warning);
+            }
+        }
 
         // The next file starts now: its download waits for a session only while every one is
         // busy, and takes over this delete's session the moment the delete is done.
         slot.release();
         if (config_.deleteAfterDownload) {
             std::optional<std::string> deleteError;
+            // The source goes only once the placed file is safe on disk.
             try {
-                co_await ftpService_->deleteFile(key);
-            } catch (const FTPError& e) {
-                deleteError = e.errorDescription();
+                co_await services_.fileSyncer.makeDurable(placed);
+            } catch (...) {
+                deleteError = failureText(std::current_exception());
+            }
+            if (!deleteError) {
+                try {
+                    co_await ftpService_->deleteFile(key);
+                } catch (const FTPError& e) {
+                    deleteError = e.errorDescription();
+                }
             }
             if (deleteError) {
                 // Still counted as downloaded: a server that refuses deletes never fills the disk
@@ -373,18 +451,15 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
             log("Copied: " + key + " \u2192 " + folder, LogLevel::success);
         }
         co_return result;
-    } catch (const FTPError& e) {
-        failure = e.errorDescription();
-    } catch (const LocalFailure& e) {
-        failure = e.text;
-    } catch (const std::exception& e) {
-        failure = e.what();
     } catch (...) {
-        failure = "an unexpected error";
+        failure = failureText(std::current_exception());
     }
 
     // A failure after the file was placed (the remote delete's folder walk) leaves it placed.
-    if (result.success) co_return result;
+    if (result.success) {
+        log("After placing " + key + ": " + *failure, LogLevel::warning);
+        co_return result;
+    }
     auto rows = activeDownloads_();
     std::erase_if(rows, [&](const DownloadProgress& r) {
         return r.fileName == file.name && r.connectionName == config_.name;

@@ -4,6 +4,7 @@ namespace tarnel {
 
 struct Runtime;
 class AppSettings;
+class FileSyncer;
 class HistoryService;
 class LogService;
 class NotificationService;
@@ -23,6 +24,7 @@ struct EngineServices {
     NotificationService& notifications;
     SleepMonitor& sleepMonitor;
     SoundPlayer& soundPlayer;
+    FileSyncer& fileSyncer;  // a placed file is durable before its remote delete
 };
 
 }  // namespace tarnel

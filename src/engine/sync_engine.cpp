@@ -52,6 +52,7 @@ void SyncEngine::log(const std::string& text, LogLevel level) const {
 }
 
 void SyncEngine::start() {
+    stopped_ = false;
     dynamicSelectedPaths_ = config_.selectedRemotePaths;
     log("Started (interval: " + wholeSeconds(config_.pollInterval) +
         "s, protocol: " + protocolName(config_.transferProtocol) + ")");
@@ -63,6 +64,7 @@ void SyncEngine::start() {
 }
 
 void SyncEngine::stop() {
+    stopped_ = true;
     timer_.reset();
     removeSleepObservers();
     log("Stopped");

@@ -25,6 +25,7 @@ namespace tarnel {
 
 class WindowSlot;
 class DownloadTracker;
+struct PartialDownload;
 
 // In this order; across engines the worst counts: error, syncing, connected, idle.
 enum class ConnectionState { idle, connected, syncing, error };
@@ -124,6 +125,9 @@ private:
     // Records, in one write, the downloads of files[from...] up to recordsWrittenAhead of them
     // that have no record yet.
     void recordAhead(const std::vector<TrackedFile>& files, std::size_t from);
+    // The partial-download record of `key` if it is this connection's: records are keyed by
+    // tracking key alone, and another connection's bytes are never resumed.
+    std::optional<PartialDownload> ownPartial(const std::string& key) const;
     // A placed file's records: downloaded set, counters, history. Written as soon as it is placed.
     void recordTransfer(const TransferResult& result);
     void addHistoryEntry(const TransferResult& result);
@@ -176,6 +180,8 @@ private:
     std::unordered_map<std::string, RetryInfo> retryState_;
     std::unique_ptr<Timer> timer_;
     bool syncInProgress_ = false;
+    // Set by stop(): the running poll ends the transfers it has begun and starts no other.
+    bool stopped_ = false;
     int renameCounter_ = 0;
     int consecutiveFailures_ = 0;
     std::vector<std::string> dynamicSelectedPaths_;

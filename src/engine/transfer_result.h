@@ -17,8 +17,9 @@ struct TransferResult {
     std::string trackingKey;
     bool wasResumed = false;
     bool wasIgnored = false;
-    // Another transfer, of an engine this one replaced, still writes the temporary file: the
-    // file is neither placed nor failed, and the next poll takes it up again.
+    // Not this transfer's to make now: the engine was stopped, or a transfer of an engine this
+    // one replaced writes or has placed the file. Neither placed nor failed; the next poll
+    // takes it up again if it has to.
     bool wasDeferred = false;
 };
 

@@ -40,7 +40,7 @@ ConnectionsManager::ConnectionsManager(FleetServices services, RemoteFactory mak
                       services_.statsService,   services_.historyService,
                       services_.globalSettings, *partialTracker_,
                       services_.notifications,  services_.sleepMonitor,
-                      services_.soundPlayer},
+                      services_.soundPlayer,    fileSyncer_},
       passwords_(services_.keyring, services_.logService, [this] { saveConnections(); },
                  [this](const Uuid& id, const Keyring::Reply& reply) { passwordRead(id, reply); }),
       bookmarks_(services_.settingsStore) {

@@ -20,6 +20,7 @@
 #include "platform/keyring.h"
 #include "platform/network_monitor.h"
 #include "platform/observable.h"
+#include "platform/posix/group_file_syncer.h"
 #include "platform/settings_store.h"
 #include "platform/sleep_inhibitor.h"
 
@@ -165,6 +166,7 @@ private:
     FleetServices services_;
     RemoteFactory makeRemote_;
     std::unique_ptr<PartialDownloadTracker> partialTracker_;
+    GroupFileSyncer fileSyncer_{services_.runtime};  // one for the fleet: fuller rounds
     EngineServices engineServices_;
 
     Observable<std::vector<ConnectionConfig>> connections_;

@@ -199,10 +199,13 @@ TEST_F(TarnelProgramTest, KilledInTheMiddleOfADownloadItResumesFromTheTemporaryF
     auto file = writeImport(json::array({recordFor(connectionTo(server))}));
 
     tarnel.start({"--headless", "--import", file.string()});
-    const auto partial = dir / "downloads" / "video.mov.tarnel-partial";
+    // The temporary file's name carries a tag of the connection: "video.mov.<tag>.tarnel-partial".
+    fs::path partial;
     ASSERT_TRUE(TarnelProcess::waitFor([&] {
         std::error_code ec;
-        return fs::file_size(partial, ec) > 1'500'000 && !ec;
+        for (const auto& entry : fs::directory_iterator(dir / "downloads", ec))
+            if (entry.path().extension() == ".tarnel-partial") partial = entry.path();
+        return !partial.empty() && fs::file_size(partial, ec) > 1'500'000 && !ec;
     })) << tarnel.logText();
     tarnel.signal(SIGKILL);
     EXPECT_EQ(tarnel.wait(), 128 + SIGKILL);

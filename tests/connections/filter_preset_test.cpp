@@ -28,7 +28,8 @@ TEST(FilterPresets, DetectionComparesEntrySetsInArrayOrder) {
     ASSERT_EQ(filterPresets().size(), 15u);
     EXPECT_EQ(matchingPreset("", "").id, "all_files");
     EXPECT_EQ(
-        matchingPreset("", "DS_Store, thumbs.db, partial, download, crdownload, part, temp, tmp")
+        matchingPreset("", "DS_Store, thumbs.db, filepart, partial, download, crdownload, part, "
+                           "temp, tmp")
             .id,
         "all_except_temp");
     const std::string photos = filterPreset("photos").extensions;
@@ -101,7 +102,8 @@ TEST(FilterCheckboxes, PresetsImplyTheirBoxesUntilOneIsToggled) {
     toggleCategory(temps, "all_except_temp", temp);
     EXPECT_EQ(
         temps,
-        (FilterStrings{"crdownload, download, ds_store, part, partial, temp, thumbs.db, tmp", ""}));
+        (FilterStrings{
+            "crdownload, download, ds_store, filepart, part, partial, temp, thumbs.db, tmp", ""}));
 
     // Under "all_files" everything is written out and the exclude list emptied; turning the
     // temporaries off moves them back to the exclude list.

@@ -24,6 +24,7 @@
 #include "records/partial_download_tracker.h"
 #include "records/stats_service.h"
 #include "recording_notifier.h"
+#include "recording_syncer.h"
 
 namespace tarnel::testing {
 
@@ -50,6 +51,7 @@ struct EngineFixture : ::testing::Test {
     ManualSleepMonitor sleepMonitor;
     RecordingSoundPlayer soundPlayer;
     PartialDownloadTracker partials{dir / "partials.json", &loop};
+    RecordingSyncer syncer{loop};
     std::shared_ptr<MemoryServer> server = std::make_shared<MemoryServer>();
     ConnectionConfig config = defaultConfig();
 
@@ -74,8 +76,8 @@ struct EngineFixture : ::testing::Test {
     }
 
     EngineServices engineServices() {
-        return {runtime,  logService,    stats,        history,    settings,
-                partials, notifications, sleepMonitor, soundPlayer};
+        return {runtime,  logService,    stats,        history,     settings,
+                partials, notifications, sleepMonitor, soundPlayer, syncer};
     }
 
     std::shared_ptr<SyncEngine> makeEngine() {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <stdexcept>
 
@@ -159,6 +160,7 @@ TEST_F(EngineStateTest, FilesSettleOverPollsAndFilteredOnesAreNeverTracked) {
                      {"tiny.jpg", "123"},
                      {"empty.jpg", ""},
                      {"b.jpg.tarnel-partial", std::string(50, 'b')},
+                     {"c.jpg.filepart", std::string(50, 'c')},  // another client's upload
                      {"x.tmp", std::string(50, 'x')}};
     auto engine = makeEngine();
 
@@ -265,6 +267,93 @@ TEST_F(EngineStateTest, FailuresOfAnyKindFailOneFileOrOnePollAndTheEngineGoesOn)
     EXPECT_EQ(engine->totalTransferred()(), 2);
 }
 
+// Once verified and in its folder a file is downloaded: a rename that cannot be made (a name
+// past 255 bytes) leaves it there under its first name, booked once and deleted on the server.
+TEST_F(EngineStateTest, AStepAfterPlacingThatFailsLeavesTheFileOnceUnderTheNameItHas) {
+    config.requiredStableChecks = 0;
+    config.deleteAfterDownload = true;
+    config.renamePattern = std::string(300, 'x') + "_{original}";
+    server->files = {{"report.csv", "data"}};
+    auto engine = makeEngine();
+    engine->start();
+    for (int poll = 0; poll < 4; ++poll) loop.advance(30s);
+
+    std::vector<std::string> arrived;
+    for (const auto& entry : fs::directory_iterator(dir / "inbox"))
+        arrived.push_back(entry.path().filename().string());
+    std::sort(arrived.begin(), arrived.end());
+    EXPECT_EQ(arrived, std::vector<std::string>{"report.csv"});
+    EXPECT_TRUE(server->files.empty());
+    EXPECT_TRUE(hasLogLine("WARN [Test] Renaming failed for report.csv, it stays as report.csv: "));
+    EXPECT_TRUE(hasLogLine("File name too long"));
+    EXPECT_FALSE(hasLogLine("ERR "));
+    ASSERT_EQ(history.entries()().size(), 1u);
+    EXPECT_EQ(history.entries()()[0].finalFilename, "report.csv");
+    EXPECT_EQ(engine->totalTransferred()(), 1);
+}
+
+// Two connections place one name into one folder: neither resumes the other's temporary file,
+// even one named as before names carried the connection.
+TEST_F(EngineStateTest, TwoConnectionsWithOneNameInOneFolderKeepTheirOwnBytes) {
+    config.requiredStableChecks = 0;
+    server->files = {{"report.csv", "AAAAAAAAAA"}};
+    ConnectionConfig other = config;
+    other.id = Uuid::random();
+    other.name = "Other";
+    auto otherServer = std::make_shared<MemoryServer>();
+    otherServer->files = {{"report.csv", "BBBBBBBBBB"}};
+    // What a cut download of the first connection left: four bytes and their record.
+    const auto inbox = dir / "inbox";
+    const auto cut = inbox / "report.csv.tarnel-partial";
+    fs::create_directories(inbox);
+    std::ofstream(cut) << "AAAA";
+    partials.record({"report.csv", cut.string(), 10, 4, config.id.toString(), {}, {}, 0, ""});
+
+    auto second = std::make_shared<SyncEngine>(
+        other, std::make_unique<MemoryRemote>(loop, otherServer),
+        std::make_unique<DownloadTracker>(partials.journal(), settingsStore, other.id.toString()),
+        engineServices());
+    second->start();
+    loop.advance(30s);
+    auto first = makeEngine();
+    first->start();
+    loop.advance(30s);
+
+    EXPECT_EQ(readFile(inbox / "report.csv"), "BBBBBBBBBB");
+    EXPECT_EQ(readFile(inbox / "report (1).csv"), "AAAAAAAAAA");
+    // Its record taken by the other connection's download, the cut file goes at the next sweep.
+    EXPECT_EQ(partials.orphanedFiles(inbox), std::vector<fs::path>{cut});
+}
+
+// A file moved off the server is on disk, under its final name, before its delete is sent; one
+// that cannot be made so stays on the server, and is not fetched again.
+TEST_F(EngineStateTest, TheSourceIsDeletedOnlyOnceThePlacedFileIsOnDisk) {
+    config.requiredStableChecks = 0;
+    config.deleteAfterDownload = true;
+    config.renamePattern = "done_{original}";
+    server->files = {{"a.bin", "alpha"}, {"b.bin", "bravo"}};
+    syncer.hold = true;
+    auto engine = makeEngine();
+    engine->start();
+    loop.advance(30s);
+    EXPECT_EQ(syncer.heldCount(), 2u);
+    EXPECT_EQ(server->files.size(), 2u);
+    std::sort(syncer.files.begin(), syncer.files.end());
+    EXPECT_EQ(syncer.files, (std::vector<fs::path>{dir / "inbox" / "done_a.bin",
+                                                   dir / "inbox" / "done_b.bin"}));
+    syncer.release();
+    loop.runUntilIdle();
+    EXPECT_TRUE(server->files.empty());
+
+    syncer.hold = false;
+    syncer.failure = "disk gone";
+    server->files = {{"c.bin", "charlie"}};
+    for (int poll = 0; poll < 3; ++poll) loop.advance(30s);
+    EXPECT_TRUE(hasLogLine("WARN [Test] Downloaded OK but delete failed: c.bin \u2014 disk gone"));
+    EXPECT_EQ(server->files.size(), 1u);
+    EXPECT_EQ(countLogLines("Verified: c.bin"), 1);
+}
+
 TEST_F(EngineStateTest, RetryWaitsPastTheTwentiethAttemptAreToldWhole) {
     config.requiredStableChecks = 0;
     config.maxRetries = 50;  // beyond what a stored record may hold
@@ -308,7 +397,7 @@ TEST_F(EngineStateTest, AFilePlacedByARunThatDiedIsBookedNotFetchedAgain) {
         config, std::make_unique<MemoryRemote>(loop, server),
         std::make_unique<DownloadTracker>(reloaded.journal(), settingsStore, config.id.toString()),
         EngineServices{runtime, logService, stats, history, settings, reloaded, notifications,
-                       sleepMonitor, soundPlayer});
+                       sleepMonitor, soundPlayer, syncer});
     engine->start();
     loop.advance(30s);
     EXPECT_TRUE(hasLogLine("[Test] Placed before the last stop, booked now: a.txt \u2192 a.txt"));

@@ -4,8 +4,10 @@
 #include <fstream>
 #include <set>
 
+#include "engine/destination.h"
 #include "engine/ftp_remote_service.h"
 #include "engine/md5.h"
+#include "platform/posix/group_file_syncer.h"
 #include "engine_fixture.h"
 #include "servers/test_server.h"
 #include "transfer/curl_transfer_client.h"
@@ -29,13 +31,16 @@ struct EngineTransferTest : EngineFixture, ::testing::WithParamInterface<ServerP
         return *ftp;
     }
 
-    std::shared_ptr<SyncEngine> makeServerEngine() {
+    // With the fixture's syncer, or `fileSyncer`.
+    std::shared_ptr<SyncEngine> makeServerEngine(FileSyncer* fileSyncer = nullptr) {
         auto client = std::make_unique<CurlTransferClient>(config, dir / "known_hosts");
         auto service = std::make_unique<FTPService>(config, logService, std::move(client));
         return std::make_shared<SyncEngine>(
             config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
-            std::make_unique<DownloadTracker>(partials.journal(), settingsStore, config.id.toString()),
-            engineServices());
+            std::make_unique<DownloadTracker>(partials.journal(), settingsStore,
+                                              config.id.toString()),
+            EngineServices{runtime, logService, stats, history, settings, partials, notifications,
+                           sleepMonitor, soundPlayer, fileSyncer ? *fileSyncer : syncer});
     }
 
     void serve(const std::string& path, const std::string& content) {
@@ -146,7 +151,10 @@ TEST_F(EngineTransferFtpTest, ACutResumeIsResumedAgainAndAChangedFileIsFetchedWh
     loop.advance(10s);
     EXPECT_TRUE(hasLogLine("[Test] Resuming: big.bin from 100 KB (attempt 1/5)"));
     EXPECT_TRUE(hasLogLine("ERR [Test] Failed: big.bin"));
-    EXPECT_EQ(fs::file_size(dir / "inbox" / "big.bin.tarnel-partial"), 250'000u);
+    // Named as before names carried the connection, the file went on under its present name.
+    EXPECT_FALSE(fs::exists(dir / "inbox" / "big.bin.tarnel-partial"));
+    EXPECT_EQ(fs::file_size(partialFileURL(dir / "inbox", "big.bin", config.id.toString(), "big.bin")),
+              250'000u);
 
     server.cutTransfersAfter(std::nullopt);
     loop.advance(10s);
@@ -166,6 +174,40 @@ TEST_F(EngineTransferFtpTest, ACutResumeIsResumedAgainAndAChangedFileIsFetchedWh
     EXPECT_EQ(filesBelow(dir / "inbox"), (std::vector<std::string>{"big.bin", "next.bin"}));
 }
 
+// The program's syncer, against a real server: each moved file has been synced, under its final
+// name and whole, while its source was still on the server.
+TEST_F(EngineTransferFtpTest, MovedFilesAreSyncedByTheGroupSyncerBeforeTheirSourceGoes) {
+    auto& server = startServer();
+    config.requiredStableChecks = 0;
+    config.renamePattern = "done_{original}";
+    std::vector<std::string> names;
+    for (int i = 0; i < 12; ++i) {
+        names.push_back("f" + std::to_string(i) + ".bin");
+        serve(names.back(), pattern(20'000 + i));
+    }
+    struct Spy final : FileSyncer {
+        Spy(Runtime& runtime, fs::path root) : real(runtime), serverRoot(std::move(root)) {}
+        GroupFileSyncer real;
+        fs::path serverRoot;
+        std::vector<std::string> synced;  // names whose source was still there
+        Task<void> makeDurable(fs::path file) override {
+            co_await real.makeDurable(file);
+            const std::string name = file.filename().string().substr(5);  // after "done_"
+            if (fs::exists(serverRoot / name) && readFile(file) == readFile(serverRoot / name))
+                synced.push_back(name);
+        }
+    } spy{runtime, server.root()};
+    auto engine = makeServerEngine(&spy);
+    engine->start();
+    loop.advance(10s);
+
+    EXPECT_TRUE(filesBelow(server.root()).empty());
+    EXPECT_EQ(filesBelow(dir / "inbox").size(), names.size());
+    std::sort(spy.synced.begin(), spy.synced.end());
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(spy.synced, names);
+}
+
 TEST_F(EngineTransferFtpTest, SizeMismatchAndEmptyFiles) {
     auto& server = startServer();
     config.requiredStableChecks = 0;
@@ -179,7 +221,8 @@ TEST_F(EngineTransferFtpTest, SizeMismatchAndEmptyFiles) {
     EXPECT_TRUE(hasLogLine("ERR [Test] Size mismatch: grows.csv \u2014 remote: 10 bytes, local: 13 bytes"));
     EXPECT_TRUE(hasLogLine("ERR [Test] Empty file after download: empty.txt"));
     EXPECT_TRUE(hasLogLine("WARN [Test] Will retry grows.csv in 5s (attempt 1/10)"));
-    EXPECT_FALSE(fs::exists(dir / "inbox" / "empty.txt.tarnel-partial"));
+    EXPECT_FALSE(
+        fs::exists(partialFileURL(dir / "inbox", "empty.txt", config.id.toString(), "empty.txt")));
 
     // The listing now gives 13: the count restarts, the bigger partial is dropped, all fetched.
     loop.advance(10s);

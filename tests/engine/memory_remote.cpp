@@ -32,10 +32,20 @@ Task<std::vector<FTPFileEntry>> MemoryRemote::collectFiles(std::string, int,
 Task<void> MemoryRemote::downloadFile(std::string name, std::filesystem::path to,
                                       std::int64_t resumeFrom, ProgressCallback onProgress,
                                       std::optional<std::string>) {
-    // The engine names the temporary file: the remote file is the name without its suffix.
+    // The engine names the temporary file: the remote file is the name without its suffix and
+    // the tag before it, "name.0123456789ab.tarnel-partial".
     if (name.ends_with(".tarnel-partial")) name.resize(name.size() - 15);
+    const auto dot = name.rfind('.');
+    if (dot != std::string::npos && name.size() - dot == 13 &&
+        name.find_first_not_of("0123456789abcdef", dot + 1) == std::string::npos)
+        name.resize(dot);
     if (server_->beforeDownload) server_->beforeDownload(name);
-    auto it = server_->files.find(name);
+    auto server = server_;
+    if (server->bytesPerSecond > 0 && server->files.contains(name)) {
+        const auto size = static_cast<std::int64_t>(server->files[name].size());
+        co_await delay(loop_, std::chrono::seconds(1) * size / server->bytesPerSecond);
+    }
+    auto it = server->files.find(name);
     if (it == server_->files.end()) throw FTPError::curlExitCode(78, "no such file");
     std::ofstream out(to, resumeFrom > 0 ? std::ios::app | std::ios::binary : std::ios::binary);
     out << it->second.substr(static_cast<std::size_t>(resumeFrom));

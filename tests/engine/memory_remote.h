@@ -16,6 +16,7 @@ namespace tarnel::testing {
 struct MemoryServer {
     std::map<std::string, std::string> files;
     Duration listingDelay{0};
+    std::int64_t bytesPerSecond = 0;  // a download takes size / rate of virtual time; 0: none
     std::optional<FTPError> failListingWith;  // every listing fails while set
     // Called before each listing and download; may throw anything.
     std::function<void()> beforeListing;

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
+
 #include "connections/connection_config_json.h"
 #include "fleet_fixture.h"
 
@@ -138,6 +141,45 @@ TEST_F(ManagerTest, DisablingAConnectionByAnEditUpdatesTheFleetsSummary) {
     EXPECT_TRUE(manager->engines().empty());
     EXPECT_FALSE(manager->hasActiveEngines()());
     EXPECT_FALSE(manager->aggregatePaused()());
+}
+
+// An engine replaced by an edit, or removed, starts nothing of its batch that it had not begun:
+// with files left on the server, every file arrives once.
+TEST_F(ManagerTest, AnEditOrARemovalDuringACopyBatchFetchesEachFileOnce) {
+    auto manager = makeManager();
+    auto shop = connection("Shop", "shop"), lab = connection("Lab", "lab");
+    for (auto* c : {&shop, &lab}) {
+        c->requiredStableChecks = 0;
+        c->deleteAfterDownload = false;
+        c->maxConcurrentDownloads = 1;
+        c->pollInterval = 10;
+        c->localPath = (dir / c->name).string();
+        manager->addConnection(*c);
+        auto& server = *servers[c->host];
+        server.bytesPerSecond = 10;
+        for (const char* name : {"a", "b", "c", "d", "e", "f"})
+            server.files[std::string(name) + ".txt"] = std::string(10, *name);
+        server.files["c.txt"] = std::string(100, 'c');  // under way for 10 s
+    }
+    loop.advance(12500ms);  // two files in, the third under way
+    shop.name = "Shop edited";
+    manager->updateConnection(shop);
+    manager->removeConnection(lab.id);
+    manager->syncAllNow();
+    for (int poll = 0; poll < 4; ++poll) loop.advance(10s);
+
+    const auto arrived = [&](const std::string& name) {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(dir / name))
+            names.push_back(entry.path().filename().string());
+        std::sort(names.begin(), names.end());
+        return names;
+    };
+    EXPECT_EQ(arrived("Shop"),
+              (std::vector<std::string>{"a.txt", "b.txt", "c.txt", "d.txt", "e.txt", "f.txt"}));
+    EXPECT_EQ(arrived("Lab").size(), 3u);
+    EXPECT_EQ(history.entries()().size(), 9u);
+    manager->stopAll();
 }
 
 }  // namespace
