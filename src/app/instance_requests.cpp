@@ -1,13 +1,12 @@
 #include "app/instance_requests.h"
 
 #include "app/connection_import.h"
-#include "connections/connection_config_json.h"
 
 namespace tarnel {
 
 InstanceAnswer importRequest(AppServices& services, const std::string& payload) {
     try {
-        const auto summary = importConnections(services.manager(), decodeConnectionList(payload));
+        const auto summary = importConnections(services.manager(), readConnectionImportText(payload));
         services.logService().log(summary);
         return InstanceAnswer{true, summary};
     } catch (const std::exception& e) {

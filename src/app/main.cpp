@@ -55,7 +55,6 @@ int main(int argc, char** argv) {
 
     // A file that does not read imports nothing, before anything is built.
     ConnectionImport import;
-    const auto& imported = import.records;
     if (options.importFile) {
         try {
             import = readConnectionImport(*options.importFile);
@@ -81,7 +80,7 @@ int main(int argc, char** argv) {
         bool importedThere = true;
         if (options.importFile) {
             const auto answer = InstanceChannel::send(paths.instanceSocket, InstanceRequestKind::import,
-                                                      encodeConnectionList(imported));
+                                                      encodeConnectionList(import.records, import.passwordsInKeyring));
             (answer.ok ? std::cout : std::cerr) << answer.text << "\n";
             importedThere = answer.ok;
         }
@@ -104,14 +103,14 @@ int main(int argc, char** argv) {
                          std::move(echo));
 
     if (!options.headless) {
-        std::cout << importConnections(services.manager(), imported) << "\n";
+        std::cout << importConnections(services.manager(), import) << "\n";
         services.shutdown();
         return 0;
     }
 
     services.manager().startAll();
     if (options.importFile)
-        services.logService().log(importConnections(services.manager(), imported));
+        services.logService().log(importConnections(services.manager(), import));
     if (services.manager().engines().empty())
         services.logService().log(
             "No enabled connection with a host to watch; add one with 'tarnel --import FILE' "
