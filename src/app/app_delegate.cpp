@@ -135,19 +135,13 @@ void AppDelegate::closePopover() {
 }
 
 void AppDelegate::showSettings(SettingsTab tab, std::optional<Uuid> connectionId) {
-    closePopover();
-    std::optional<QPoint> origin;
-    if (settingsWindow_) {
-        origin = settingsWindow_->pos();
-        settingsWindow_->close();
-    }
-    settingsWindow_ = std::make_unique<SettingsWindow>(services_->manager(), services_->settings(),
-                                                       services_->soundPlayer(), tab, connectionId);
-    if (origin)
-        settingsWindow_->move(*origin);
-    else
-        centreOnScreen(*settingsWindow_);
-    present(*settingsWindow_);
+    // The open window is kept: a dialog of it may be running, with the window on its stack.
+    const bool open = settingsWindow_ != nullptr;
+    showOnce(settingsWindow_, [&] {
+        return std::make_unique<SettingsWindow>(services_->manager(), services_->settings(),
+                                                services_->soundPlayer(), tab, connectionId);
+    });
+    if (open) settingsWindow_->reveal(tab, connectionId);
 }
 
 template <typename Window, typename Make>
