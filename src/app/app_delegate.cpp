@@ -166,7 +166,8 @@ void AppDelegate::showHistory() {
 }
 
 void AppDelegate::showAbout() {
-    showOnce(aboutWindow_, [] { return std::make_unique<AboutView>(); });
+    showOnce(aboutWindow_,
+             [this] { return std::make_unique<AboutView>(paths_.logFile.parent_path()); });
 }
 
 void AppDelegate::applicationWillTerminate() {
