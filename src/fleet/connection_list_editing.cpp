@@ -34,16 +34,17 @@ void ConnectionsManager::updateConnection(const ConnectionConfig& config, Passwo
     std::string kept = std::move(it->password);
     *it = config;
     if (password == Password::keep) it->password = std::move(kept);
+    const ConnectionConfig updated = *it;
     connections_.set(std::move(list));
     saveConnections();
     // Every edit restarts the engine, unpaused, whatever field it touched.
-    awaitingPassword_.erase(config.id);
-    if (auto engine = engines_.find(config.id); engine != engines_.end()) {
+    awaitingPassword_.erase(updated.id);
+    if (auto engine = engines_.find(updated.id); engine != engines_.end()) {
         engine->second->stop();
         engines_.erase(engine);
     }
-    if (canRun(config))
-        createEngine(config, false);
+    if (canRun(updated))
+        createEngine(updated, false);
     else
         recomputeAggregates();  // no engine of its own will
 }

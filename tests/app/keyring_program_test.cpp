@@ -135,7 +135,9 @@ TEST_F(KeyringProgramTest, TheStoredFormImportedIntoARunningFleetKeepsThePasswor
     ASSERT_EQ(stored.size(), 1u);
     stored[0]["pollInterval"] = 5;
     std::ofstream(dir / "stored.json") << stored.dump();
-    const auto result = tarnel.run({"--import", (dir / "stored.json").string()});
+    TarnelProcess later{tarnel.home()};
+    later.useSessionBus(secrets->busAddress());
+    const auto result = later.run({"--import", (dir / "stored.json").string()});
     EXPECT_EQ(result.exitCode, 0) << result.err;
 
     std::ofstream(server->root() / "two.pdf") << "two";
