@@ -145,7 +145,8 @@ std::string importConnections(ConnectionsManager& manager, const ConnectionImpor
         bool exists = std::any_of(known.begin(), known.end(),
                                   [&](const ConnectionConfig& c) { return c.id == record.id; });
         if (exists) {
-            const bool inKeyring = import.passwordsInKeyring.contains(record.id) && record.password.empty();
+            const bool inKeyring =
+                import.passwordsInKeyring.contains(record.id) && record.password.empty();
             manager.updateConnection(record, inKeyring ? ConnectionsManager::Password::keep
                                                        : ConnectionsManager::Password::replace);
             ++replaced;

@@ -79,8 +79,9 @@ int main(int argc, char** argv) {
     if (!lock.held()) {
         bool importedThere = true;
         if (options.importFile) {
-            const auto answer = InstanceChannel::send(paths.instanceSocket, InstanceRequestKind::import,
-                                                      encodeConnectionList(import.records, import.passwordsInKeyring));
+            const auto answer =
+                InstanceChannel::send(paths.instanceSocket, InstanceRequestKind::import,
+                                      encodeConnectionList(import.records, import.passwordsInKeyring));
             (answer.ok ? std::cout : std::cerr) << answer.text << "\n";
             importedThere = answer.ok;
         }

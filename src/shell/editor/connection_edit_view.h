@@ -27,8 +27,9 @@ class TestStepsView;
 // Every setting of one connection as a scrolling form over a working copy of its record.
 // Nothing reaches the manager until "Apply", which hands the copy to `updateConnection` (and so
 // restarts the connection). A password the user has not typed is never handed on: the record's
-// stays, whether or not the keyring had answered when the editor was made. "Test Connection" and "Browse..." run on a temporary client made
-// from the copy, apart from any engine, while the window stays responsive.
+// stays, whether or not the keyring had answered when the editor was made. "Test Connection"
+// and "Browse..." run on a temporary client made from the copy, apart from any engine, while the
+// window stays responsive.
 class ConnectionEditView final : public QWidget {
 public:
     ConnectionEditView(ConnectionsManager& manager, ConnectionConfig config, bool autoFocusName);

@@ -108,7 +108,8 @@ ConnectionsSettingsTab::ConnectionsSettingsTab(ConnectionsManager& manager,
         paintEntry(list_, previous, false);
         paintEntry(list_, item, true);
         if (!item) return;
-        if (const auto id = Uuid::parse(item->data(idRole).toString().toStdString())) selectionClicked(*id);
+        if (const auto id = Uuid::parse(item->data(idRole).toString().toStdString()))
+            selectionClicked(*id);
     });
     connect(list_, &QListWidget::customContextMenuRequested, this, [this](const QPoint& at) {
         if (!list_->itemAt(at)) return;
@@ -233,7 +234,8 @@ void ConnectionsSettingsTab::deleteSelected() {
     const Uuid id = *selectedConnectionId_;
     const auto named = [this](const Uuid& id) -> const ConnectionConfig* {
         const auto& list = manager_.connections()();
-        const auto found = std::find_if(list.begin(), list.end(), [&](const auto& c) { return c.id == id; });
+        const auto found =
+            std::find_if(list.begin(), list.end(), [&](const auto& c) { return c.id == id; });
         return found == list.end() ? nullptr : &*found;
     };
     const auto* found = named(id);

@@ -78,7 +78,8 @@ AboutView::AboutView(const std::filesystem::path& logFolder, const ProductInfo& 
     layout->addWidget(version, 0, Qt::AlignHCenter);
     layout->addSpacing(12);
 
-    for (const auto& link : aboutLinks(info, logFolder)) layout->addWidget(linkRow(link, this), 0, Qt::AlignHCenter);
+    for (const auto& link : aboutLinks(info, logFolder))
+        layout->addWidget(linkRow(link, this), 0, Qt::AlignHCenter);
     layout->addStretch();
     layout->addWidget(textLabel(ui("Made by the Tarnel developers."), Tone::secondary, true), 0,
                       Qt::AlignHCenter);
