@@ -3,11 +3,13 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QToolButton>
 
 #include "connections/connection_config_json.h"
 #include "fleet_fixture.h"
 #include "platform/testing/memory_keyring.h"
 #include "shell/editor/connection_edit_view.h"
+#include "shell/popover/menu_bar_view.h"
 #include "shell/settings/connections_settings_tab.h"
 #include "shell/settings/notifications_settings_tab.h"
 #include "shell/settings/settings_window.h"
@@ -180,6 +182,21 @@ TEST_F(KeyringEditsTest, AnEditorMadeBeforeTheKeyringAnsweredNeverChangesThePass
     loop.runUntilIdle();
     EXPECT_EQ(memoryKeyring.entries[shop.id.toString()], "typed");
     again->stopAll();
+}
+
+TEST_F(KeyringEditsTest, ThePowerButtonOfARowDrawnBeforeTheKeyringAnsweredKeepsThePassword) {
+    auto manager = makeManager();
+    MenuBarView view(*manager, settings, stats, history, loop, {});
+    loop.runUntilIdle();
+    QToolButton* power = nullptr;
+    for (auto* button : view.findChildren<QToolButton*>())
+        if (button->toolTip() == QStringLiteral("Disable connection")) power = button;
+    ASSERT_NE(power, nullptr);
+    QTest::mouseClick(power, Qt::LeftButton);
+    loop.runUntilIdle();
+    EXPECT_FALSE(manager->connections()()[0].enabled);
+    EXPECT_EQ(memoryKeyring.entries[shop.id.toString()], "s3cret");
+    manager->stopAll();
 }
 
 TEST_F(SettingsWindowTest, SteppersStopAtTheirLimitsAndFollowTheSetting) {
