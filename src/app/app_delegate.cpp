@@ -122,19 +122,13 @@ void AppDelegate::closePopover() {
 }
 
 void AppDelegate::showSettings(SettingsTab tab, std::optional<Uuid> connectionId) {
-    closePopover();
-    std::optional<QPoint> origin;
-    if (settingsWindow_) {
-        origin = settingsWindow_->pos();
-        settingsWindow_->close();
-    }
-    settingsWindow_ = std::make_unique<SettingsWindow>(services_->manager(), services_->settings(),
-                                                       services_->soundPlayer(), tab, connectionId);
-    if (origin)
-        settingsWindow_->move(*origin);
-    else
-        centreOnScreen(*settingsWindow_);
-    present(*settingsWindow_);
+    // The open window is kept: a dialog of it may be running, with the window on its stack.
+    const bool open = settingsWindow_ != nullptr;
+    showOnce(settingsWindow_, [&] {
+        return std::make_unique<SettingsWindow>(services_->manager(), services_->settings(),
+                                                services_->soundPlayer(), tab, connectionId);
+    });
+    if (open) settingsWindow_->reveal(tab, connectionId);
 }
 
 template <typename Window, typename Make>
@@ -159,7 +153,8 @@ void AppDelegate::showHistory() {
 }
 
 void AppDelegate::showAbout() {
-    showOnce(aboutWindow_, [] { return std::make_unique<AboutView>(); });
+    showOnce(aboutWindow_,
+             [this] { return std::make_unique<AboutView>(paths_.logFile.parent_path()); });
 }
 
 void AppDelegate::applicationWillTerminate() {

@@ -88,16 +88,23 @@ ConnectionImport readConnectionImport(const std::string& file) {
     if (!in) throw std::runtime_error("cannot read " + file);
     std::ostringstream text;
     text << in.rdbuf();
-    Json list = Json::parse(text.str(), nullptr, false);
+    return readConnectionImportText(text.str());
+}
+
+ConnectionImport readConnectionImportText(const std::string& text) {
+    Json list = Json::parse(text, nullptr, false);
     ConnectionImport result;
     if (!list.is_array()) {
         // Not an array of records: the decoder says what is wrong with it.
-        result.records = decodeConnectionList(text.str());
+        result.records = decodeConnectionList(text);
         return result;
     }
     result.defaultedKeys.resize(list.size());
     for (std::size_t i = 0; i < list.size(); ++i) completeRecord(list[i], result.defaultedKeys[i]);
     result.records = decodeConnectionList(list.dump());
+    for (std::size_t i = 0; i < list.size(); ++i)
+        if (has(list[i], passwordInKeyringKey) && list[i][passwordInKeyringKey] == true)
+            result.passwordsInKeyring.insert(result.records[i].id);
     return result;
 }
 
@@ -129,8 +136,8 @@ void recordFolders(ConnectionsManager& manager, const ConnectionConfig& record) 
 
 }  // namespace
 
-std::string importConnections(ConnectionsManager& manager,
-                              const std::vector<ConnectionConfig>& records) {
+std::string importConnections(ConnectionsManager& manager, const ConnectionImport& import) {
+    const auto& records = import.records;
     int added = 0, replaced = 0;
     for (const auto& record : records) {
         recordFolders(manager, record);
@@ -138,7 +145,10 @@ std::string importConnections(ConnectionsManager& manager,
         bool exists = std::any_of(known.begin(), known.end(),
                                   [&](const ConnectionConfig& c) { return c.id == record.id; });
         if (exists) {
-            manager.updateConnection(record);
+            const bool inKeyring =
+                import.passwordsInKeyring.contains(record.id) && record.password.empty();
+            manager.updateConnection(record, inKeyring ? ConnectionsManager::Password::keep
+                                                       : ConnectionsManager::Password::replace);
             ++replaced;
         } else {
             manager.addConnection(record);

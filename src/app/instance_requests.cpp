@@ -8,7 +8,7 @@ namespace tarnel {
 
 InstanceAnswer importRequest(AppServices& services, const std::string& payload) {
     try {
-        const auto summary = importConnections(services.manager(), decodeConnectionList(payload));
+        const auto summary = importConnections(services.manager(), readConnectionImportText(payload));
         services.logService().log(summary);
         return InstanceAnswer{true, summary};
     } catch (const std::exception& e) {

@@ -59,7 +59,6 @@ int main(int argc, char** argv) {
 
     // A file that does not read imports nothing, before anything is built.
     ConnectionImport import;
-    const auto& imported = import.records;
     if (options.importFile) {
         try {
             import = readConnectionImport(*options.importFile);
@@ -85,7 +84,8 @@ int main(int argc, char** argv) {
         bool importedThere = true;
         if (options.importFile) {
             const auto answer =
-                askHolder(lock, InstanceRequestKind::import, encodeConnectionList(imported));
+                askHolder(lock, InstanceRequestKind::import,
+                          encodeConnectionList(import.records, import.passwordsInKeyring));
             (answer.ok ? std::cout : std::cerr) << answer.text << "\n";
             importedThere = answer.ok;
         }
@@ -109,14 +109,14 @@ int main(int argc, char** argv) {
                          std::move(echo));
 
     if (!options.headless) {
-        std::cout << importConnections(services.manager(), imported) << "\n";
+        std::cout << importConnections(services.manager(), import) << "\n";
         services.shutdown();
         return 0;
     }
 
     services.manager().startAll();
     if (options.importFile)
-        services.logService().log(importConnections(services.manager(), imported));
+        services.logService().log(importConnections(services.manager(), import));
     if (services.manager().engines().empty())
         services.logService().log(
             "No enabled connection with a host to watch; add one with 'tarnel --import FILE' "

@@ -26,21 +26,26 @@ void ConnectionsManager::addConnection(const ConnectionConfig& config) {
     if (canRun(config)) createEngine(config, false);
 }
 
-void ConnectionsManager::updateConnection(const ConnectionConfig& config) {
+void ConnectionsManager::updateConnection(const ConnectionConfig& config, Password password) {
     auto list = connections_();
     auto it = std::find_if(list.begin(), list.end(), [&](auto& c) { return c.id == config.id; });
     if (it == list.end()) return;
+    // The record's password is the one read from the keyring, or "" while it is unread, which
+    // storing takes for no change.
+    std::string kept = std::move(it->password);
     *it = config;
+    if (password == Password::keep) it->password = std::move(kept);
+    const ConnectionConfig updated = *it;
     connections_.set(std::move(list));
     saveConnections();
     // Every edit restarts the engine, unpaused, whatever field it touched.
-    awaitingPassword_.erase(config.id);
-    if (auto engine = engines_.find(config.id); engine != engines_.end()) {
+    awaitingPassword_.erase(updated.id);
+    if (auto engine = engines_.find(updated.id); engine != engines_.end()) {
         engine->second->stop();
         engines_.erase(engine);
     }
-    if (canRun(config))
-        createEngine(config, false);
+    if (canRun(updated))
+        createEngine(updated, false);
     else
         recomputeAggregates();  // no engine of its own will
 }

@@ -79,7 +79,10 @@ public:
 
     // Editing the list; each edit saves it and rebuilds the connection's engine.
     void addConnection(const ConnectionConfig& config);
-    void updateConnection(const ConnectionConfig& config);
+    // `keep` leaves the password as the fleet knows it, whatever `config` holds: an edit made
+    // before the keyring answered holds an empty one that nobody typed.
+    enum class Password { replace, keep };
+    void updateConnection(const ConnectionConfig& config, Password password = Password::replace);
     void removeConnection(const Uuid& id);
     // Folders the engine's watch found, added to the stored selection.
     void addSelectedRemotePaths(const std::vector<std::string>& paths,

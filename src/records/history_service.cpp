@@ -1,10 +1,12 @@
 #include "records/history_service.h"
 
 #include <algorithm>
-#include <cctype>
 #include <iterator>
-#include <nlohmann/json.hpp>
 #include <stdexcept>
+
+#include <locale.h>
+#include <nlohmann/json.hpp>
+#include <wctype.h>
 
 #include "platform/localized.h"
 #include "records/store_migration.h"
@@ -120,10 +122,47 @@ std::deque<HistoryEntry> load(Journal& journal) {
     return entries;
 }
 
-std::string lowered(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return text;
+// Every letter in lower case, not only ASCII ("Été" finds "été"), whatever the process's locale:
+// UTF-8 is decoded, each code point lowered by the C.UTF-8 tables, and encoded again. Bytes
+// that are no UTF-8 stay as they are.
+std::string lowered(const std::string& text) {
+    static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", locale_t{});
+    std::string out;
+    out.reserve(text.size());
+    for (std::size_t i = 0; i < text.size();) {
+        const auto lead = static_cast<unsigned char>(text[i]);
+        const std::size_t length = lead < 0x80 ? 1 : (lead >> 5) == 6 ? 2 : (lead >> 4) == 14 ? 3
+                                 : (lead >> 3) == 30 ? 4 : 0;
+        char32_t point = length == 1 ? lead : length ? (lead & (0x7f >> length)) : 0;
+        bool valid = length > 0 && i + length <= text.size();
+        for (std::size_t k = 1; valid && k < length; ++k) {
+            const auto next = static_cast<unsigned char>(text[i + k]);
+            valid = (next & 0xc0) == 0x80;
+            point = (point << 6) | (next & 0x3f);
+        }
+        if (!valid || !unicode) {
+            out += text[i++];
+            continue;
+        }
+        point = static_cast<char32_t>(towlower_l(static_cast<wint_t>(point), unicode));
+        if (point < 0x80) {
+            out += static_cast<char>(point);
+        } else if (point < 0x800) {
+            out += static_cast<char>(0xc0 | (point >> 6));
+            out += static_cast<char>(0x80 | (point & 0x3f));
+        } else if (point < 0x10000) {
+            out += static_cast<char>(0xe0 | (point >> 12));
+            out += static_cast<char>(0x80 | ((point >> 6) & 0x3f));
+            out += static_cast<char>(0x80 | (point & 0x3f));
+        } else {
+            out += static_cast<char>(0xf0 | (point >> 18));
+            out += static_cast<char>(0x80 | ((point >> 12) & 0x3f));
+            out += static_cast<char>(0x80 | ((point >> 6) & 0x3f));
+            out += static_cast<char>(0x80 | (point & 0x3f));
+        }
+        i += length;
+    }
+    return out;
 }
 
 }  // namespace

@@ -121,5 +121,35 @@ TEST_F(KeyringProgramTest, MovedToAndFromAMachineWithoutAKeyringNothingIsLost) {
     EXPECT_EQ(secrets->lookup(connection.id.toString()), password);
 }
 
+TEST_F(KeyringProgramTest, TheStoredFormImportedIntoARunningFleetKeepsThePasswordInTheKeyring) {
+    withKeyring();
+    import();
+    std::ofstream(server->root() / "one.pdf") << "one";
+    tarnel.start({"--headless"});
+    ASSERT_TRUE(TarnelProcess::waitFor([&] { return fs::exists(dir / "downloads" / "one.pdf"); }))
+        << tarnel.logText();
+
+    // The stored form, its password blank and marked, edited and handed to the running fleet.
+    auto stored = json::parse(
+        QtSettingsStore(tarnel.settingsFile()).stringValue("tarnel_connections_v2").value_or("[]"));
+    ASSERT_EQ(stored.size(), 1u);
+    stored[0]["pollInterval"] = 5;
+    std::ofstream(dir / "stored.json") << stored.dump();
+    TarnelProcess later{tarnel.home()};
+    later.useSessionBus(secrets->busAddress());
+    const auto result = later.run({"--import", (dir / "stored.json").string()});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+
+    std::ofstream(server->root() / "two.pdf") << "two";
+    EXPECT_TRUE(TarnelProcess::waitFor([&] { return fs::exists(dir / "downloads" / "two.pdf"); }))
+        << tarnel.logText();
+    tarnel.signal(SIGTERM);
+    EXPECT_EQ(tarnel.wait(), 0);
+    EXPECT_EQ(secrets->lookup(connection.id.toString()), password);
+    EXPECT_TRUE(markedInKeyring());
+    const QtSettingsStore after(tarnel.settingsFile());
+    EXPECT_EQ(json::parse(after.stringValue("tarnel_connections_v2").value_or("[]"))[0]["pollInterval"], 5);
+}
+
 }  // namespace
 }  // namespace tarnel::testing

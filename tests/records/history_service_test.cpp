@@ -89,6 +89,9 @@ TEST(HistoryService, FilterByTextAndStatus) {
     auto a = entry("Report.PDF", TransferStatus::error);
     EXPECT_TRUE(HistoryService::matches(a, "report", TransferStatus::error));
     EXPECT_TRUE(HistoryService::matches(a, "SHOP", std::nullopt));
+    auto accented = a;
+    accented.filename = "\u00c9t\u00e9.jpg";  // "Été.jpg"
+    EXPECT_TRUE(HistoryService::matches(accented, "\u00e9t\u00e9", std::nullopt));
     EXPECT_FALSE(HistoryService::matches(a, "report", TransferStatus::success));
     EXPECT_FALSE(HistoryService::matches(a, "final-", std::nullopt));  // not the final name
 }

@@ -116,9 +116,10 @@ TEST_F(EditorViewTest, ApplyNeedsHostAndFolderAndOnlyItReachesTheManager) {
     EXPECT_FALSE(warningShown());
 }
 
-TEST_F(EditorViewTest, ANewConnectionStaysOffUntilEnabledAndAppliedAndAnotherSelectionDropsEdits) {
+TEST_F(EditorViewTest, ANewConnectionStaysOffUntilEnabledAndAppliedAndDiscardedEditsAreGone) {
     const auto shop = added("Shop");
     ConnectionsSettingsTab tab(*manager, shop.id);
+    tab.askAboutEdits = [](const QString&) { return ConnectionsSettingsTab::EditsChoice::discard; };
     type(tab.editor()->control<QLineEdit>("Name"), QStringLiteral("Renamed"));
 
     QTest::mouseClick(tab.plusButton(), Qt::LeftButton);

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
+#include <fstream>
 
 #include "app/app_delegate.h"
 #include "platform/testing/virtual_loop.h"
@@ -179,20 +180,25 @@ TEST_F(WindowsTest, HistoryFiltersByStatusAndSearchAndSaysWhenNothingMatches) {
     history.flush();
 }
 
-TEST(AboutWindow, ShowsTheVersionAndBuildAndLinksToTheSiteAndSupport) {
-    const ProductInfo info{"2.3.1", "417", "https://tarnel.test", "help@tarnel.test"};
-    AboutView about(info);
+TEST(AboutWindow, ShowsTheVersionAndBuildAndLinksOnlyToWhatIsThere) {
+    QTemporaryDir dir;
+    const auto folder = std::filesystem::path(dir.path().toStdString());
+    ProductInfo info{"2.3.1", "417", folder / "README.md"};
+    AboutView about(folder / "logs", info);
     const auto* version = about.findChild<QLabel*>(QStringLiteral("version"));
     ASSERT_TRUE(version);
     EXPECT_EQ(version->text(), QStringLiteral("Tarnel 2.3.1 (build 417)"));
-    EXPECT_EQ(versionLine({"", "417", {}, {}}), QStringLiteral("Tarnel 1.0.0 (build 417)"));
+    EXPECT_EQ(versionLine({"", "417", {}}), QStringLiteral("Tarnel 1.0.0 (build 417)"));
 
-    QStringList targets;
-    for (const auto& link : aboutLinks(info)) targets << link.target.toString();
-    EXPECT_EQ(targets, (QStringList{QStringLiteral("https://tarnel.test"),
-                                    QStringLiteral("https://tarnel.test/privacy"),
-                                    QStringLiteral("https://tarnel.test/terms"),
-                                    QStringLiteral("mailto:help@tarnel.test")}));
+    const auto targets = [&] {
+        QStringList out;
+        for (const auto& link : aboutLinks(info, folder / "logs")) out << link.target.toLocalFile();
+        return out;
+    };
+    EXPECT_EQ(targets(), QStringList{dir.filePath(QStringLiteral("logs"))});  // not installed
+    std::ofstream((folder / "README.md").string()) << "# Tarnel";
+    EXPECT_EQ(targets(), (QStringList{dir.filePath(QStringLiteral("README.md")),
+                                      dir.filePath(QStringLiteral("logs"))}));
 }
 
 // Offscreen there is no tray, so the popover opens as a window at once.

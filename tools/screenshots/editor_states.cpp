@@ -11,9 +11,13 @@
 //   rules               three rules added, the last one never reached, and scrolled to
 //   sheet               the rule sheet opened over the first rule
 //   preset NAME         the sector NAME chosen, which asks first
+//   rename NAME         NAME typed as the connection's name
+//   apply               "Apply" pressed
+//   leave N             the N-th connection selected, which asks first while edits are unapplied
 //   escape              the sheet or question on screen dismissed
 #include <QApplication>
 #include <QGroupBox>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
@@ -138,6 +142,21 @@ int main(int argc, char** argv) {
                     QTimer::singleShot(0, &window, [&editor, sector] { editor().chooseSector(sector); });
                     return;
                 }
+        } else if (command == "rename") {
+            std::string name;
+            std::getline(words >> std::ws, name);
+            auto* field = editor().control<QLineEdit>("Name");
+            field->selectAll();
+            field->insert(QString::fromStdString(name));
+        } else if (command == "apply") {
+            editor().applyButton()->click();
+        } else if (command == "leave") {
+            std::size_t n = 0;
+            words >> n;
+            answer(command);
+            const auto id = services.manager().connections()()[n].id;
+            QTimer::singleShot(0, &window, [&window, id] { window.connections().select(id); });
+            return;
         } else if (command == "escape") {
             if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) box->reject();
             if (sheet) sheet->close();

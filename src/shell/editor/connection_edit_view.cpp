@@ -52,7 +52,7 @@ QString failureText(const std::exception& error) {
 
 ConnectionEditView::ConnectionEditView(ConnectionsManager& manager, ConnectionConfig config,
                                        bool autoFocusName)
-    : manager_(manager), config_(std::move(config)), scroll_(new QScrollArea) {
+    : manager_(manager), config_(std::move(config)), applied_(config_), scroll_(new QScrollArea) {
     initEditorIcons();
     choosePath = filePanels(this);
     confirmPreset = [this](const QString& name) { return askBeforePreset(this, name); };
@@ -86,6 +86,10 @@ ConnectionEditView::ConnectionEditView(ConnectionsManager& manager, ConnectionCo
     outer->addWidget(steps_);
     auto* buttons = new QHBoxLayout;
     buttons->setContentsMargins(12, 6, 12, 6);
+    appliedNote_ = new QLabel(ui("Changes applied"));
+    appliedNote_->setObjectName(QStringLiteral("Changes applied"));
+    appliedNote_->hide();
+    buttons->addWidget(appliedNote_);
     buttons->addStretch();
     test_ = new QPushButton(ui("Test Connection"));
     apply_ = new QPushButton(ui("Apply"));
@@ -113,12 +117,26 @@ ConnectionEditView::ConnectionEditView(ConnectionsManager& manager, ConnectionCo
 ConnectionEditView::~ConnectionEditView() = default;
 
 void ConnectionEditView::edited() {
-    apply_->setEnabled(canApply(config_));
+    apply_->setEnabled(canApply(config_) && hasUnappliedChanges());
+    if (hasUnappliedChanges()) appliedNote_->hide();
 }
 
 void ConnectionEditView::apply() {
     if (!canApply(config_)) return;
-    manager_.updateConnection(config_);
+    const auto password =
+        passwordTyped_ ? ConnectionsManager::Password::replace : ConnectionsManager::Password::keep;
+    applied_ = config_;
+    passwordTyped_ = false;
+    manager_.updateConnection(config_, password);
+    appliedNote_->show();
+    edited();
+}
+
+void ConnectionEditView::storedRecordChanged(const ConnectionConfig& stored) {
+    if (passwordTyped_ || stored.id != config_.id || stored.password == applied_.password) return;
+    applied_.password = config_.password = stored.password;
+    form_->refresh();
+    edited();
 }
 
 void ConnectionEditView::addSectorPicker() {

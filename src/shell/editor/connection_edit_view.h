@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QWidget>
@@ -25,14 +26,21 @@ class TestStepsView;
 
 // Every setting of one connection as a scrolling form over a working copy of its record.
 // Nothing reaches the manager until "Apply", which hands the copy to `updateConnection` (and so
-// restarts the connection). "Test Connection" and "Browse..." run on a temporary client made
-// from the copy, apart from any engine, while the window stays responsive.
+// restarts the connection). A password the user has not typed is never handed on: the record's
+// stays, whether or not the keyring had answered when the editor was made. "Test Connection"
+// and "Browse..." run on a temporary client made from the copy, apart from any engine, while the
+// window stays responsive.
 class ConnectionEditView final : public QWidget {
 public:
     ConnectionEditView(ConnectionsManager& manager, ConnectionConfig config, bool autoFocusName);
     ~ConnectionEditView() override;
 
     const ConnectionConfig& config() const { return config_; }
+    // Whether the copy differs from the record as it was opened or last applied.
+    bool hasUnappliedChanges() const { return config_ != applied_; }
+    // The stored record has changed: a password read from the keyring meanwhile takes the
+    // place of the empty one shown, unless the user has typed one.
+    void storedRecordChanged(const ConnectionConfig& stored);
 
     // The panels, the preset question and the rule sheet; tests answer in the user's place.
     ChoosePath choosePath;
@@ -50,6 +58,8 @@ public:
     bool isTesting() const { return isTesting_; }
     bool isBrowsing() const { return isBrowsing_; }
     QPushButton* applyButton() const { return apply_; }
+    // "Changes applied", shown from an Apply until the next edit.
+    QLabel* appliedNote() const { return appliedNote_; }
     QPushButton* testButton() const { return test_; }
     QComboBox* sectorPicker() const { return sectorPicker_; }
     TestStepsView& testSteps() const { return *steps_; }
@@ -82,6 +92,8 @@ private:
 
     ConnectionsManager& manager_;
     ConnectionConfig config_;
+    ConnectionConfig applied_;  // what the manager holds, as far as this editor knows
+    bool passwordTyped_ = false;
     std::unique_ptr<EditorForm> form_;
     QScrollArea* scroll_;
     QComboBox* sectorPicker_ = nullptr;
@@ -92,6 +104,7 @@ private:
     RoutingRuleList* rules_ = nullptr;
     QPushButton* test_ = nullptr;
     QPushButton* apply_ = nullptr;
+    QLabel* appliedNote_ = nullptr;
     bool isTesting_ = false;
     bool isBrowsing_ = false;
     // Tasks in flight hold this weakly: the editor may be gone when they come back.

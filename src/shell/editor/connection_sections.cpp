@@ -46,7 +46,9 @@ void ConnectionEditView::addConnectionSection() {
     form.text(UI_TEXT("Host"), "ftp.example.com", &ConnectionConfig::host);
     form.number(UI_TEXT("Port"), &ConnectionConfig::port, [](const ConnectionConfig& c) { return portProblem(c.port); });
     form.text(UI_TEXT("Username"), nullptr, &ConnectionConfig::username);
-    form.text(UI_TEXT("Password"), nullptr, &ConnectionConfig::password)->setEchoMode(QLineEdit::Password);
+    auto* password = form.text(UI_TEXT("Password"), nullptr, &ConnectionConfig::password);
+    password->setEchoMode(QLineEdit::Password);
+    connect(password, &QLineEdit::textEdited, this, [this] { passwordTyped_ = true; });
     form.picker<bool>(UI_TEXT("FTP Mode"), {{ui("Passive (recommended)"), true}, {ui("Active"), false}},
                       &ConnectionConfig::ftpPassiveMode);
     form.showWhen([](const ConnectionConfig& c) { return !isSftp(c); });

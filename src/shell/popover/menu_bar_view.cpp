@@ -242,10 +242,15 @@ QWidget* MenuBarView::connectionRow(const ConnectionConfig& config) {
                                       16, config.enabled ? toneColor(Tone::blue) : toneColor(Tone::secondary),
                                       2.0)));
     power->setToolTip(config.enabled ? ui("Disable connection") : ui("Enable connection"));
-    QObject::connect(power, &QToolButton::clicked, power, [this, config] {
-        auto flipped = config;
-        flipped.enabled = !flipped.enabled;
-        manager_.updateConnection(flipped);
+    // The record as it is at the click, not as the row was drawn: a password read from the
+    // keyring since is in it.
+    QObject::connect(power, &QToolButton::clicked, power, [this, id = config.id] {
+        for (auto flipped : manager_.connections()())
+            if (flipped.id == id) {
+                flipped.enabled = !flipped.enabled;
+                manager_.updateConnection(flipped);
+                return;
+            }
     });
     top->addWidget(power);
     top->addWidget(elidedLabel(qs(config.name), 130, true));

@@ -3,12 +3,14 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <utility>
 
 #include "shell/bridge/qt_text.h"
 #include "shell/editor/connection_edit_view.h"
+#include "shell/editor/editor_texts.h"
 #include "shell/icons/symbol_icon.h"
 
 namespace tarnel {
@@ -43,6 +45,21 @@ bool askBeforeDelete(QWidget* parent, const QString& name) {
     return box.clickedButton() == remove;
 }
 
+ConnectionsSettingsTab::EditsChoice askAboutUnappliedEdits(QWidget* parent, const QString& name) {
+    using Choice = ConnectionsSettingsTab::EditsChoice;
+    QMessageBox box(QMessageBox::Question, ui("Apply your changes?"),
+                    ui("The connection '") + name + ui("' has changes that were not applied."),
+                    QMessageBox::NoButton, parent);
+    box.setInformativeText(ui("Apply them now, or discard them?"));
+    auto* apply = box.addButton(ui("Apply"), QMessageBox::AcceptRole);
+    auto* discard = box.addButton(ui("Discard"), QMessageBox::DestructiveRole);
+    box.addButton(ui("Cancel"), QMessageBox::RejectRole);
+    box.setDefaultButton(apply);
+    box.exec();
+    if (box.clickedButton() == apply) return Choice::apply;
+    return box.clickedButton() == discard ? Choice::discard : Choice::cancel;
+}
+
 QToolButton* smallButton(const char* icon) {
     auto* button = new QToolButton;
     button->setIcon(symbolIcon(icon));
@@ -61,6 +78,7 @@ ConnectionsSettingsTab::ConnectionsSettingsTab(ConnectionsManager& manager,
       detail_(new QLabel),
       columns_(new QHBoxLayout(this)) {
     confirmDelete = [this](const QString& name) { return askBeforeDelete(this, name); };
+    askAboutEdits = [this](const QString& name) { return askAboutUnappliedEdits(this, name); };
     auto* columns = columns_;
     auto* left = new QVBoxLayout;
     list_->setFixedWidth(200);
@@ -79,6 +97,7 @@ ConnectionsSettingsTab::ConnectionsSettingsTab(ConnectionsManager& manager,
     columns->addWidget(detail_, 1);
 
     connect(plus_, &QToolButton::clicked, this, [this] {
+        if (!settleEdits()) return;
         const auto id = addNewConnection(manager_);
         autoFocusNewConnection_ = true;
         select(id);
@@ -89,8 +108,8 @@ ConnectionsSettingsTab::ConnectionsSettingsTab(ConnectionsManager& manager,
         paintEntry(list_, previous, false);
         paintEntry(list_, item, true);
         if (!item) return;
-        selectedConnectionId_ = Uuid::parse(item->data(idRole).toString().toStdString());
-        showDetail();
+        if (const auto id = Uuid::parse(item->data(idRole).toString().toStdString()))
+            selectionClicked(*id);
     });
     connect(list_, &QListWidget::customContextMenuRequested, this, [this](const QPoint& at) {
         if (!list_->itemAt(at)) return;
@@ -113,9 +132,50 @@ Uuid ConnectionsSettingsTab::addNewConnection(ConnectionsManager& manager) {
     return config.id;
 }
 
-void ConnectionsSettingsTab::select(const std::optional<Uuid>& id) {
+bool ConnectionsSettingsTab::select(const std::optional<Uuid>& id) {
+    if (id != selectedConnectionId_ && !settleEdits()) return false;
     selectedConnectionId_ = id;
     rebuildList();
+    return true;
+}
+
+void ConnectionsSettingsTab::selectionClicked(const Uuid& id) {
+    if (id == selectedConnectionId_) return;
+    if (settleEdits()) {
+        selectedConnectionId_ = id;
+        showDetail();
+        return;
+    }
+    // Back to the connection still being edited, without rebuilding the list under its signal.
+    const QSignalBlocker quiet(list_);
+    for (int row = 0; row < list_->count(); ++row) {
+        auto* item = list_->item(row);
+        const bool edited = item->data(idRole).toString() == qs(selectedConnectionId_->toString());
+        paintEntry(list_, item, edited);
+        if (edited) list_->setCurrentItem(item);
+    }
+}
+
+bool ConnectionsSettingsTab::settleEdits() {
+    if (!editor_ || !editor_->hasUnappliedChanges()) return true;
+    // The question runs an event loop: the editor may be replaced or the list changed meanwhile.
+    const QPointer<ConnectionEditView> editor = editor_;
+    const auto choice = askAboutEdits(qs(editor_->config().name));
+    if (!editor || editor != editor_) return true;
+    switch (choice) {
+        case EditsChoice::apply:
+            if (!canApply(editor->config())) return false;  // the editor says what is missing
+            editor->apply();
+            return true;
+        case EditsChoice::discard:
+            // A fresh editor over the stored record; the window may stay open.
+            delete std::exchange(editor_, nullptr);
+            showDetail();
+            return true;
+        case EditsChoice::cancel:
+            return false;
+    }
+    return false;
 }
 
 void ConnectionsSettingsTab::rebuildList() {
@@ -156,8 +216,11 @@ void ConnectionsSettingsTab::showDetail() {
         return;
     }
     // The editor is made anew only when the selection changes: an apply, which changes the
-    // list, keeps it as it stands, and another selection drops what was not applied.
-    if (editor_ && editor_->config().id == found->id) return;
+    // list, keeps it as it stands.
+    if (editor_ && editor_->config().id == found->id) {
+        editor_->storedRecordChanged(*found);
+        return;
+    }
     delete std::exchange(editor_, nullptr);
     detail_->clear();
     detail_->hide();
@@ -167,14 +230,22 @@ void ConnectionsSettingsTab::showDetail() {
 
 void ConnectionsSettingsTab::deleteSelected() {
     if (!selectedConnectionId_) return;
-    const auto& list = manager_.connections()();
-    const auto found = std::find_if(list.begin(), list.end(), [this](const ConnectionConfig& c) {
-        return selectedConnectionId_ == c.id;
-    });
-    if (found == list.end() || !confirmDelete(qs(found->name))) return;
-    manager_.removeConnection(found->id);
+    // The question runs an event loop, in which the list may be replaced: only the id is kept.
+    const Uuid id = *selectedConnectionId_;
+    const auto named = [this](const Uuid& id) -> const ConnectionConfig* {
+        const auto& list = manager_.connections()();
+        const auto found =
+            std::find_if(list.begin(), list.end(), [&](const auto& c) { return c.id == id; });
+        return found == list.end() ? nullptr : &*found;
+    };
+    const auto* found = named(id);
+    if (!found || !confirmDelete(qs(found->name)) || !named(id)) return;
+    // The editor goes with the connection, and with it what was not applied.
+    delete std::exchange(editor_, nullptr);
+    manager_.removeConnection(id);
     const auto& rest = manager_.connections()();
-    select(rest.empty() ? std::nullopt : std::optional<Uuid>(rest.front().id));
+    selectedConnectionId_ = rest.empty() ? std::nullopt : std::optional<Uuid>(rest.front().id);
+    rebuildList();
 }
 
 }  // namespace tarnel

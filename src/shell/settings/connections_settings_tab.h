@@ -25,9 +25,17 @@ public:
     static Uuid addNewConnection(ConnectionsManager& manager);
 
     std::optional<Uuid> selectedConnectionId() const { return selectedConnectionId_; }
-    void select(const std::optional<Uuid>& id);
+    // Shows another connection once the editor's unapplied changes are settled; false when
+    // the user chose to go on editing.
+    bool select(const std::optional<Uuid>& id);
+    // Asks what becomes of the editor's unapplied changes before it goes; true when it may go.
+    bool settleEdits();
+
     // Asks before a delete; true deletes. Tests answer in place of the user.
     std::function<bool(const QString& name)> confirmDelete;
+    enum class EditsChoice { apply, discard, cancel };
+    // Asks whether the unapplied changes of connection `name` are applied or discarded.
+    std::function<EditsChoice(const QString& name)> askAboutEdits;
 
     QToolButton* plusButton() const { return plus_; }
     QToolButton* minusButton() const { return minus_; }
@@ -40,6 +48,7 @@ private:
     void rebuildList();
     void showDetail();
     void deleteSelected();
+    void selectionClicked(const Uuid& id);
 
     ConnectionsManager& manager_;
     std::optional<Uuid> selectedConnectionId_;

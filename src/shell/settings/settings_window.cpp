@@ -1,5 +1,7 @@
 #include "shell/settings/settings_window.h"
 
+#include <QApplication>
+#include <QCloseEvent>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -43,6 +45,31 @@ SettingsWindow::SettingsWindow(ConnectionsManager& manager, AppSettings& setting
     tabs_->addTab(connections_, symbolIcon("network"), ui("Connections"));
     tabs_->setCurrentIndex(static_cast<int>(initialTab));
     layout->addWidget(tabs_);
+}
+
+QWidget* SettingsWindow::runningDialog() const {
+    QWidget* modal = QApplication::activeModalWidget();
+    for (const QWidget* w = modal; w; w = w->parentWidget())
+        if (w == this) return modal;
+    return nullptr;
+}
+
+void SettingsWindow::reveal(SettingsTab tab, std::optional<Uuid> connectionId) {
+    if (QWidget* dialog = runningDialog()) {
+        dialog->raise();
+        dialog->activateWindow();
+        return;
+    }
+    if (connectionId && !connections_->select(connectionId)) tab = SettingsTab::connections;
+    tabs_->setCurrentIndex(static_cast<int>(tab));
+}
+
+void SettingsWindow::closeEvent(QCloseEvent* event) {
+    if (runningDialog() || !connections_->settleEdits()) {
+        event->ignore();
+        return;
+    }
+    QWidget::closeEvent(event);
 }
 
 }  // namespace tarnel

@@ -43,15 +43,19 @@ QString versionLine(const ProductInfo& info) {
     return ui("Tarnel %1 (build %2)").arg(qs(version), qs(info.build));
 }
 
-std::vector<AboutLink> aboutLinks(const ProductInfo& info) {
-    const auto site = qs(info.website);
-    return {{ui("Website"), "globe", QUrl(site)},
-            {ui("Privacy Policy"), "hand.raised", QUrl(site + QStringLiteral("/privacy"))},
-            {ui("Terms of Service"), "doc.text", QUrl(site + QStringLiteral("/terms"))},
-            {ui("Support"), "envelope", QUrl(QStringLiteral("mailto:") + qs(info.supportEmail))}};
+std::vector<AboutLink> aboutLinks(const ProductInfo& info, const std::filesystem::path& logFolder) {
+    const auto file = [](const std::filesystem::path& path) {
+        return QUrl::fromLocalFile(QString::fromStdString(path.string()));
+    };
+    std::vector<AboutLink> links;
+    std::error_code ignored;
+    if (!info.readme.empty() && std::filesystem::is_regular_file(info.readme, ignored))
+        links.push_back({ui("Read Me"), "doc.text", file(info.readme)});
+    links.push_back({ui("Log Folder"), "folder", file(logFolder)});
+    return links;
 }
 
-AboutView::AboutView(const ProductInfo& info) {
+AboutView::AboutView(const std::filesystem::path& logFolder, const ProductInfo& info) {
     makeToolWindow(*this, ui("About Tarnel"));
     setFixedSize(360, 340);
 
@@ -74,7 +78,8 @@ AboutView::AboutView(const ProductInfo& info) {
     layout->addWidget(version, 0, Qt::AlignHCenter);
     layout->addSpacing(12);
 
-    for (const auto& link : aboutLinks(info)) layout->addWidget(linkRow(link, this), 0, Qt::AlignHCenter);
+    for (const auto& link : aboutLinks(info, logFolder))
+        layout->addWidget(linkRow(link, this), 0, Qt::AlignHCenter);
     layout->addStretch();
     layout->addWidget(textLabel(ui("Made by the Tarnel developers."), Tone::secondary, true), 0,
                       Qt::AlignHCenter);

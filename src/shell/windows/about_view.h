@@ -17,13 +17,15 @@ struct AboutLink {
     const char* icon;
     QUrl target;
 };
-// "Website", "Privacy Policy", "Terms of Service" and "Support", in that order.
-std::vector<AboutLink> aboutLinks(const ProductInfo& info);
+// What is there to open on this machine: the installed "Read Me" (none where the program runs
+// from its build) and the "Log Folder".
+std::vector<AboutLink> aboutLinks(const ProductInfo& info, const std::filesystem::path& logFolder);
 
-// "About Tarnel": the logo, the name, the version line, the four links and the makers' line.
+// "About Tarnel": the logo, the name, the version line, the links and the makers' line.
 class AboutView final : public QWidget {
 public:
-    explicit AboutView(const ProductInfo& info = builtProductInfo());
+    explicit AboutView(const std::filesystem::path& logFolder,
+                       const ProductInfo& info = builtProductInfo());
 };
 
 }  // namespace tarnel

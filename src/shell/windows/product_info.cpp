@@ -4,7 +4,7 @@ namespace tarnel {
 
 // The values come from the build (the project's version and the cache variables beside it).
 ProductInfo builtProductInfo() {
-    return {TARNEL_VERSION, TARNEL_BUILD_NUMBER, TARNEL_WEBSITE, TARNEL_SUPPORT_EMAIL};
+    return {TARNEL_VERSION, TARNEL_BUILD_NUMBER, TARNEL_README};
 }
 
 }  // namespace tarnel

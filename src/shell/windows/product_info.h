@@ -1,15 +1,15 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 namespace tarnel {
 
-// Who the program is and where its makers are found, as the build was configured.
+// Who the program is and what it brings along, as the build was configured.
 struct ProductInfo {
     std::string version;
     std::string build;
-    std::string website;       // "https://…", without a trailing slash
-    std::string supportEmail;  // an address, without "mailto:"
+    std::filesystem::path readme;  // where the package installs the README
 };
 
 ProductInfo builtProductInfo();
