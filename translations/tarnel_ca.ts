@@ -980,10 +980,6 @@
             <translation>Impremta / Grafisme</translation>
         </message>
         <message>
-            <source>Privacy Policy</source>
-            <translation>Política de privadesa</translation>
-        </message>
-        <message>
             <source>Protocol</source>
             <translation>Protocol</translation>
         </message>
@@ -1184,10 +1180,6 @@
             <translation>Correcte</translation>
         </message>
         <message>
-            <source>Support</source>
-            <translation>Suport</translation>
-        </message>
-        <message>
             <source>Sync &amp; Transfer</source>
             <translation>Sincronització i transferència</translation>
         </message>
@@ -1244,6 +1236,10 @@
             <translation>Configuració de Tarnel</translation>
         </message>
         <message>
+            <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
+            <translation>Tarnel continua funcionant en segon pla quan tanqueu aquesta finestra. Per tornar-la a obrir, inicieu Tarnel des del menú d'aplicacions.</translation>
+        </message>
+        <message>
             <source>Tarnel: 1 file downloaded</source>
             <translation>Tarnel: 1 fitxer baixat</translation>
         </message>
@@ -1262,10 +1258,6 @@
         <message>
             <source>Tarnel: Transfer failed</source>
             <translation>Tarnel: la transferència ha fallat</translation>
-        </message>
-        <message>
-            <source>Terms of Service</source>
-            <translation>Condicions del servei</translation>
         </message>
         <message>
             <source>Test Connection</source>
@@ -1354,10 +1346,6 @@
         <message>
             <source>Warn and pause if disk space is low</source>
             <translation>Avisa i posa en pausa si queda poc espai de disc</translation>
-        </message>
-        <message>
-            <source>Website</source>
-            <translation>Lloc web</translation>
         </message>
         <message>
             <source>Wrong username or password</source>

@@ -980,10 +980,6 @@
             <translation>Druck / Grafik</translation>
         </message>
         <message>
-            <source>Privacy Policy</source>
-            <translation>Datenschutzerklärung</translation>
-        </message>
-        <message>
             <source>Protocol</source>
             <translation>Protokoll</translation>
         </message>
@@ -1184,10 +1180,6 @@
             <translation>Erfolgreich</translation>
         </message>
         <message>
-            <source>Support</source>
-            <translation>Support</translation>
-        </message>
-        <message>
             <source>Sync &amp; Transfer</source>
             <translation>Abgleich &amp; Übertragung</translation>
         </message>
@@ -1244,6 +1236,10 @@
             <translation>Tarnel-Einstellungen</translation>
         </message>
         <message>
+            <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
+            <translation>Tarnel läuft im Hintergrund weiter, wenn Sie dieses Fenster schließen. Um es wieder zu öffnen, starten Sie Tarnel erneut aus dem Anwendungsmenü.</translation>
+        </message>
+        <message>
             <source>Tarnel: 1 file downloaded</source>
             <translation>Tarnel: 1 Datei heruntergeladen</translation>
         </message>
@@ -1262,10 +1258,6 @@
         <message>
             <source>Tarnel: Transfer failed</source>
             <translation>Tarnel: Übertragung fehlgeschlagen</translation>
-        </message>
-        <message>
-            <source>Terms of Service</source>
-            <translation>Nutzungsbedingungen</translation>
         </message>
         <message>
             <source>Test Connection</source>
@@ -1354,10 +1346,6 @@
         <message>
             <source>Warn and pause if disk space is low</source>
             <translation>Bei wenig Speicherplatz warnen und pausieren</translation>
-        </message>
-        <message>
-            <source>Website</source>
-            <translation>Website</translation>
         </message>
         <message>
             <source>Wrong username or password</source>

@@ -980,10 +980,6 @@
             <translation>Impresión / Gráficos</translation>
         </message>
         <message>
-            <source>Privacy Policy</source>
-            <translation>Política de privacidad</translation>
-        </message>
-        <message>
             <source>Protocol</source>
             <translation>Protocolo</translation>
         </message>
@@ -1184,10 +1180,6 @@
             <translation>Correcto</translation>
         </message>
         <message>
-            <source>Support</source>
-            <translation>Soporte</translation>
-        </message>
-        <message>
             <source>Sync &amp; Transfer</source>
             <translation>Sincronización y transferencia</translation>
         </message>
@@ -1244,6 +1236,10 @@
             <translation>Ajustes de Tarnel</translation>
         </message>
         <message>
+            <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
+            <translation>Tarnel sigue funcionando en segundo plano al cerrar esta ventana. Para volver a abrirla, inicie Tarnel desde el menú de aplicaciones.</translation>
+        </message>
+        <message>
             <source>Tarnel: 1 file downloaded</source>
             <translation>Tarnel: 1 archivo descargado</translation>
         </message>
@@ -1262,10 +1258,6 @@
         <message>
             <source>Tarnel: Transfer failed</source>
             <translation>Tarnel: error en la transferencia</translation>
-        </message>
-        <message>
-            <source>Terms of Service</source>
-            <translation>Condiciones del servicio</translation>
         </message>
         <message>
             <source>Test Connection</source>
@@ -1354,10 +1346,6 @@
         <message>
             <source>Warn and pause if disk space is low</source>
             <translation>Avisar y pausar si queda poco espacio en disco</translation>
-        </message>
-        <message>
-            <source>Website</source>
-            <translation>Sitio web</translation>
         </message>
         <message>
             <source>Wrong username or password</source>

@@ -980,10 +980,6 @@
             <translation>Impression / Graphisme</translation>
         </message>
         <message>
-            <source>Privacy Policy</source>
-            <translation>Politique de confidentialité</translation>
-        </message>
-        <message>
             <source>Protocol</source>
             <translation>Protocole</translation>
         </message>
@@ -1184,10 +1180,6 @@
             <translation>Réussi</translation>
         </message>
         <message>
-            <source>Support</source>
-            <translation>Assistance</translation>
-        </message>
-        <message>
             <source>Sync &amp; Transfer</source>
             <translation>Synchronisation et transfert</translation>
         </message>
@@ -1244,6 +1236,10 @@
             <translation>Paramètres de Tarnel</translation>
         </message>
         <message>
+            <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
+            <translation>Tarnel continue de fonctionner en arrière-plan quand vous fermez cette fenêtre. Pour la rouvrir, lancez Tarnel depuis le menu des applications.</translation>
+        </message>
+        <message>
             <source>Tarnel: 1 file downloaded</source>
             <translation>Tarnel : 1 fichier téléchargé</translation>
         </message>
@@ -1262,10 +1258,6 @@
         <message>
             <source>Tarnel: Transfer failed</source>
             <translation>Tarnel : échec du transfert</translation>
-        </message>
-        <message>
-            <source>Terms of Service</source>
-            <translation>Conditions d'utilisation</translation>
         </message>
         <message>
             <source>Test Connection</source>
@@ -1354,10 +1346,6 @@
         <message>
             <source>Warn and pause if disk space is low</source>
             <translation>Avertir et suspendre si l'espace disque est faible</translation>
-        </message>
-        <message>
-            <source>Website</source>
-            <translation>Site web</translation>
         </message>
         <message>
             <source>Wrong username or password</source>

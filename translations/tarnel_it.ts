@@ -980,10 +980,6 @@
             <translation>Stampa / Grafica</translation>
         </message>
         <message>
-            <source>Privacy Policy</source>
-            <translation>Informativa sulla privacy</translation>
-        </message>
-        <message>
             <source>Protocol</source>
             <translation>Protocollo</translation>
         </message>
@@ -1184,10 +1180,6 @@
             <translation>Riuscito</translation>
         </message>
         <message>
-            <source>Support</source>
-            <translation>Assistenza</translation>
-        </message>
-        <message>
             <source>Sync &amp; Transfer</source>
             <translation>Sincronizzazione e trasferimento</translation>
         </message>
@@ -1244,6 +1236,10 @@
             <translation>Impostazioni di Tarnel</translation>
         </message>
         <message>
+            <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
+            <translation>Tarnel continua a funzionare in background quando chiudi questa finestra. Per riaprirla, avvia Tarnel dal menu delle applicazioni.</translation>
+        </message>
+        <message>
             <source>Tarnel: 1 file downloaded</source>
             <translation>Tarnel: 1 file scaricato</translation>
         </message>
@@ -1262,10 +1258,6 @@
         <message>
             <source>Tarnel: Transfer failed</source>
             <translation>Tarnel: trasferimento non riuscito</translation>
-        </message>
-        <message>
-            <source>Terms of Service</source>
-            <translation>Termini di servizio</translation>
         </message>
         <message>
             <source>Test Connection</source>
@@ -1354,10 +1346,6 @@
         <message>
             <source>Warn and pause if disk space is low</source>
             <translation>Avvisa e metti in pausa se lo spazio su disco è poco</translation>
-        </message>
-        <message>
-            <source>Website</source>
-            <translation>Sito web</translation>
         </message>
         <message>
             <source>Wrong username or password</source>

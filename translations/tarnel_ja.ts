@@ -980,10 +980,6 @@
             <translation>印刷・グラフィック</translation>
         </message>
         <message>
-            <source>Privacy Policy</source>
-            <translation>プライバシーポリシー</translation>
-        </message>
-        <message>
             <source>Protocol</source>
             <translation>プロトコル</translation>
         </message>
@@ -1184,10 +1180,6 @@
             <translation>成功</translation>
         </message>
         <message>
-            <source>Support</source>
-            <translation>サポート</translation>
-        </message>
-        <message>
             <source>Sync &amp; Transfer</source>
             <translation>同期と転送</translation>
         </message>
@@ -1244,6 +1236,10 @@
             <translation>Tarnel の設定</translation>
         </message>
         <message>
+            <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
+            <translation>このウィンドウを閉じても Tarnel はバックグラウンドで動作し続けます。再び開くには、アプリケーションメニューから Tarnel を起動してください。</translation>
+        </message>
+        <message>
             <source>Tarnel: 1 file downloaded</source>
             <translation>Tarnel: 1 個のファイルをダウンロードしました</translation>
         </message>
@@ -1262,10 +1258,6 @@
         <message>
             <source>Tarnel: Transfer failed</source>
             <translation>Tarnel: 転送に失敗しました</translation>
-        </message>
-        <message>
-            <source>Terms of Service</source>
-            <translation>利用規約</translation>
         </message>
         <message>
             <source>Test Connection</source>
@@ -1354,10 +1346,6 @@
         <message>
             <source>Warn and pause if disk space is low</source>
             <translation>ディスクの空き容量が少ないときは警告して一時停止</translation>
-        </message>
-        <message>
-            <source>Website</source>
-            <translation>Web サイト</translation>
         </message>
         <message>
             <source>Wrong username or password</source>

@@ -980,10 +980,6 @@
             <translation>인쇄/그래픽</translation>
         </message>
         <message>
-            <source>Privacy Policy</source>
-            <translation>개인정보 처리방침</translation>
-        </message>
-        <message>
             <source>Protocol</source>
             <translation>프로토콜</translation>
         </message>
@@ -1184,10 +1180,6 @@
             <translation>성공</translation>
         </message>
         <message>
-            <source>Support</source>
-            <translation>지원</translation>
-        </message>
-        <message>
             <source>Sync &amp; Transfer</source>
             <translation>동기화 및 전송</translation>
         </message>
@@ -1244,6 +1236,10 @@
             <translation>Tarnel 설정</translation>
         </message>
         <message>
+            <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
+            <translation>이 창을 닫아도 Tarnel은 백그라운드에서 계속 실행됩니다. 다시 열려면 애플리케이션 메뉴에서 Tarnel을 실행하세요.</translation>
+        </message>
+        <message>
             <source>Tarnel: 1 file downloaded</source>
             <translation>Tarnel: 파일 1개 다운로드됨</translation>
         </message>
@@ -1262,10 +1258,6 @@
         <message>
             <source>Tarnel: Transfer failed</source>
             <translation>Tarnel: 전송 실패</translation>
-        </message>
-        <message>
-            <source>Terms of Service</source>
-            <translation>서비스 약관</translation>
         </message>
         <message>
             <source>Test Connection</source>
@@ -1354,10 +1346,6 @@
         <message>
             <source>Warn and pause if disk space is low</source>
             <translation>디스크 공간이 부족하면 경고하고 일시 정지</translation>
-        </message>
-        <message>
-            <source>Website</source>
-            <translation>웹사이트</translation>
         </message>
         <message>
             <source>Wrong username or password</source>

@@ -980,10 +980,6 @@
             <translation>Drukwerk / Grafisch</translation>
         </message>
         <message>
-            <source>Privacy Policy</source>
-            <translation>Privacybeleid</translation>
-        </message>
-        <message>
             <source>Protocol</source>
             <translation>Protocol</translation>
         </message>
@@ -1184,10 +1180,6 @@
             <translation>Gelukt</translation>
         </message>
         <message>
-            <source>Support</source>
-            <translation>Ondersteuning</translation>
-        </message>
-        <message>
             <source>Sync &amp; Transfer</source>
             <translation>Synchronisatie en overdracht</translation>
         </message>
@@ -1244,6 +1236,10 @@
             <translation>Tarnel-instellingen</translation>
         </message>
         <message>
+            <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
+            <translation>Tarnel blijft op de achtergrond draaien als u dit venster sluit. Start Tarnel opnieuw vanuit het toepassingenmenu om het weer te openen.</translation>
+        </message>
+        <message>
             <source>Tarnel: 1 file downloaded</source>
             <translation>Tarnel: 1 bestand gedownload</translation>
         </message>
@@ -1262,10 +1258,6 @@
         <message>
             <source>Tarnel: Transfer failed</source>
             <translation>Tarnel: overdracht mislukt</translation>
-        </message>
-        <message>
-            <source>Terms of Service</source>
-            <translation>Gebruiksvoorwaarden</translation>
         </message>
         <message>
             <source>Test Connection</source>
@@ -1354,10 +1346,6 @@
         <message>
             <source>Warn and pause if disk space is low</source>
             <translation>Waarschuwen en pauzeren bij weinig schijfruimte</translation>
-        </message>
-        <message>
-            <source>Website</source>
-            <translation>Website</translation>
         </message>
         <message>
             <source>Wrong username or password</source>

@@ -980,10 +980,6 @@
             <translation>Druk / Grafika</translation>
         </message>
         <message>
-            <source>Privacy Policy</source>
-            <translation>Polityka prywatności</translation>
-        </message>
-        <message>
             <source>Protocol</source>
             <translation>Protokół</translation>
         </message>
@@ -1184,10 +1180,6 @@
             <translation>Sukces</translation>
         </message>
         <message>
-            <source>Support</source>
-            <translation>Pomoc</translation>
-        </message>
-        <message>
             <source>Sync &amp; Transfer</source>
             <translation>Synchronizacja i transfer</translation>
         </message>
@@ -1244,6 +1236,10 @@
             <translation>Ustawienia Tarnela</translation>
         </message>
         <message>
+            <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
+            <translation>Tarnel działa dalej w tle po zamknięciu tego okna. Aby je ponownie otworzyć, uruchom Tarnel z menu aplikacji.</translation>
+        </message>
+        <message>
             <source>Tarnel: 1 file downloaded</source>
             <translation>Tarnel: pobrano 1 plik</translation>
         </message>
@@ -1262,10 +1258,6 @@
         <message>
             <source>Tarnel: Transfer failed</source>
             <translation>Tarnel: transfer nie powiódł się</translation>
-        </message>
-        <message>
-            <source>Terms of Service</source>
-            <translation>Warunki korzystania</translation>
         </message>
         <message>
             <source>Test Connection</source>
@@ -1354,10 +1346,6 @@
         <message>
             <source>Warn and pause if disk space is low</source>
             <translation>Ostrzegaj i wstrzymuj przy małej ilości miejsca na dysku</translation>
-        </message>
-        <message>
-            <source>Website</source>
-            <translation>Strona internetowa</translation>
         </message>
         <message>
             <source>Wrong username or password</source>

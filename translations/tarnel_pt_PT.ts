@@ -980,10 +980,6 @@
             <translation>Impressão / Gráficos</translation>
         </message>
         <message>
-            <source>Privacy Policy</source>
-            <translation>Política de privacidade</translation>
-        </message>
-        <message>
             <source>Protocol</source>
             <translation>Protocolo</translation>
         </message>
@@ -1184,10 +1180,6 @@
             <translation>Concluído</translation>
         </message>
         <message>
-            <source>Support</source>
-            <translation>Suporte</translation>
-        </message>
-        <message>
             <source>Sync &amp; Transfer</source>
             <translation>Sincronização e transferência</translation>
         </message>
@@ -1244,6 +1236,10 @@
             <translation>Definições do Tarnel</translation>
         </message>
         <message>
+            <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
+            <translation>O Tarnel continua a funcionar em segundo plano quando fecha esta janela. Para a voltar a abrir, inicie o Tarnel a partir do menu de aplicações.</translation>
+        </message>
+        <message>
             <source>Tarnel: 1 file downloaded</source>
             <translation>Tarnel: 1 ficheiro transferido</translation>
         </message>
@@ -1262,10 +1258,6 @@
         <message>
             <source>Tarnel: Transfer failed</source>
             <translation>Tarnel: a transferência falhou</translation>
-        </message>
-        <message>
-            <source>Terms of Service</source>
-            <translation>Termos de serviço</translation>
         </message>
         <message>
             <source>Test Connection</source>
@@ -1354,10 +1346,6 @@
         <message>
             <source>Warn and pause if disk space is low</source>
             <translation>Avisar e pausar se houver pouco espaço em disco</translation>
-        </message>
-        <message>
-            <source>Website</source>
-            <translation>Sítio web</translation>
         </message>
         <message>
             <source>Wrong username or password</source>

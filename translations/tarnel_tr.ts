@@ -980,10 +980,6 @@
             <translation>Baskı / Grafik</translation>
         </message>
         <message>
-            <source>Privacy Policy</source>
-            <translation>Gizlilik Politikası</translation>
-        </message>
-        <message>
             <source>Protocol</source>
             <translation>Protokol</translation>
         </message>
@@ -1184,10 +1180,6 @@
             <translation>Başarılı</translation>
         </message>
         <message>
-            <source>Support</source>
-            <translation>Destek</translation>
-        </message>
-        <message>
             <source>Sync &amp; Transfer</source>
             <translation>Eşitleme ve Aktarım</translation>
         </message>
@@ -1244,6 +1236,10 @@
             <translation>Tarnel Ayarları</translation>
         </message>
         <message>
+            <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
+            <translation>Bu pencereyi kapattığınızda Tarnel arka planda çalışmaya devam eder. Yeniden açmak için Tarnel'i uygulamalar menüsünden başlatın.</translation>
+        </message>
+        <message>
             <source>Tarnel: 1 file downloaded</source>
             <translation>Tarnel: 1 dosya indirildi</translation>
         </message>
@@ -1262,10 +1258,6 @@
         <message>
             <source>Tarnel: Transfer failed</source>
             <translation>Tarnel: Aktarım başarısız</translation>
-        </message>
-        <message>
-            <source>Terms of Service</source>
-            <translation>Hizmet Koşulları</translation>
         </message>
         <message>
             <source>Test Connection</source>
@@ -1354,10 +1346,6 @@
         <message>
             <source>Warn and pause if disk space is low</source>
             <translation>Disk alanı azalınca uyar ve duraklat</translation>
-        </message>
-        <message>
-            <source>Website</source>
-            <translation>Web sitesi</translation>
         </message>
         <message>
             <source>Wrong username or password</source>

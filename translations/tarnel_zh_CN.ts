@@ -980,10 +980,6 @@
             <translation>印刷/图形</translation>
         </message>
         <message>
-            <source>Privacy Policy</source>
-            <translation>隐私政策</translation>
-        </message>
-        <message>
             <source>Protocol</source>
             <translation>协议</translation>
         </message>
@@ -1184,10 +1180,6 @@
             <translation>成功</translation>
         </message>
         <message>
-            <source>Support</source>
-            <translation>支持</translation>
-        </message>
-        <message>
             <source>Sync &amp; Transfer</source>
             <translation>同步与传输</translation>
         </message>
@@ -1244,6 +1236,10 @@
             <translation>Tarnel 设置</translation>
         </message>
         <message>
+            <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
+            <translation>关闭此窗口后，Tarnel 会继续在后台运行。要再次打开它，请从应用程序菜单启动 Tarnel。</translation>
+        </message>
+        <message>
             <source>Tarnel: 1 file downloaded</source>
             <translation>Tarnel: 已下载 1 个文件</translation>
         </message>
@@ -1262,10 +1258,6 @@
         <message>
             <source>Tarnel: Transfer failed</source>
             <translation>Tarnel: 传输失败</translation>
-        </message>
-        <message>
-            <source>Terms of Service</source>
-            <translation>服务条款</translation>
         </message>
         <message>
             <source>Test Connection</source>
@@ -1354,10 +1346,6 @@
         <message>
             <source>Warn and pause if disk space is low</source>
             <translation>磁盘空间不足时警告并暂停</translation>
-        </message>
-        <message>
-            <source>Website</source>
-            <translation>网站</translation>
         </message>
         <message>
             <source>Wrong username or password</source>
