@@ -18,6 +18,17 @@ namespace {
 namespace fs = std::filesystem;
 using nlohmann::json;
 
+// The temporary file of `name` in `folder`, whose name carries a tag of the connection
+// ("video.mov.<tag>.tarnel-partial"); empty while there is none.
+fs::path partialOf(const fs::path& folder, const std::string& name) {
+    std::error_code ec;
+    for (const auto& entry : fs::directory_iterator(folder, ec)) {
+        const std::string file = entry.path().filename().string();
+        if (file.starts_with(name + ".") && file.ends_with(".tarnel-partial")) return entry.path();
+    }
+    return {};
+}
+
 struct TarnelProgramTest : ::testing::Test {
     fs::path dir = fs::temp_directory_path() / ("tarnel-program-" + Uuid::random().toString());
     TarnelProcess tarnel{dir / "home"};
@@ -199,12 +210,10 @@ TEST_F(TarnelProgramTest, KilledInTheMiddleOfADownloadItResumesFromTheTemporaryF
     auto file = writeImport(json::array({recordFor(connectionTo(server))}));
 
     tarnel.start({"--headless", "--import", file.string()});
-    // The temporary file's name carries a tag of the connection: "video.mov.<tag>.tarnel-partial".
     fs::path partial;
     ASSERT_TRUE(TarnelProcess::waitFor([&] {
         std::error_code ec;
-        for (const auto& entry : fs::directory_iterator(dir / "downloads", ec))
-            if (entry.path().extension() == ".tarnel-partial") partial = entry.path();
+        partial = partialOf(dir / "downloads", "video.mov");
         return !partial.empty() && fs::file_size(partial, ec) > 1'500'000 && !ec;
     })) << tarnel.logText();
     tarnel.signal(SIGKILL);
@@ -242,9 +251,7 @@ TEST_F(TarnelProgramTest, QuitDuringFourDownloadsEndsThemAndTheNextStartResumesE
 
     tarnel.addEnvironment("QT_QPA_PLATFORM=offscreen");
     tarnel.start({});
-    const auto partial = [&](const std::string& name) {
-        return dir / "downloads" / (name + ".tarnel-partial");
-    };
+    const auto partial = [&](const std::string& name) { return partialOf(dir / "downloads", name); };
     ASSERT_TRUE(TarnelProcess::waitFor([&] {
         return std::all_of(names.begin(), names.end(), [&](const auto& name) {
             std::error_code ec;

@@ -4,6 +4,7 @@
 
 #include <fstream>
 
+#include "engine/destination.h"
 #include "engine_fixture.h"
 #include "server_engine.h"
 #include "servers/native_server.h"
@@ -50,7 +51,8 @@ TEST_F(EngineRemoteTest, AFirstDownloadThatBreaksOffIsResumedByTheNextAttempt) {
     engine->start();
     loop.advance(10s);
     EXPECT_TRUE(hasLogLine("ERR [Test] Failed: big.bin"));
-    EXPECT_EQ(readFile(dir / "inbox" / "big.bin.tarnel-partial").size(), 150'000u);
+    const auto partial = partialFileURL(dir / "inbox", "big.bin", config.id.toString(), "big.bin");
+    EXPECT_EQ(readFile(partial).size(), 150'000u);
 
     server->cutTransfersAfter(std::nullopt);
     loop.advance(10s);

@@ -11,7 +11,9 @@ unit=/usr/lib/systemd/user/tarnel-headless.service
 expected_files="./usr/bin/tarnel
 ./usr/lib/systemd/user/tarnel-headless.service
 ./usr/share/applications/tarnel.desktop
-./usr/share/icons/hicolor/scalable/apps/tarnel.svg"
+./usr/share/doc/tarnel/README.md
+./usr/share/icons/hicolor/scalable/apps/tarnel.svg
+./usr/share/metainfo/tarnel.metainfo.xml"
 
 skip() { echo "SKIPPED: $*"; exit 77; }
 fail() { echo "FAILED: $*" >&2; exit 1; }
