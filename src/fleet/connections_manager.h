@@ -51,7 +51,7 @@ struct FleetServices {
     Keyring* keyring = nullptr;
     // The journal of downloaded files and partial records; without one, "journal.db" beside
     // `partialsFile`.
-    std::shared_ptr<Journal> journal;
+    std::shared_ptr<Journal> journal = nullptr;
 };
 
 // Makes the remote an engine talks to. The program's default speaks libcurl; tests may serve
