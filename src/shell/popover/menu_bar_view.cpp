@@ -123,6 +123,7 @@ MenuBarView::MenuBarView(ConnectionsManager& manager, AppSettings& settings, Sta
     activityLines_ = new QVBoxLayout;
     activityLines_->setSpacing(3);
     activity_->addLayout(activityLines_);
+    buildStatistics();
     sections->addStretch();
     scroll->setWidget(content);
     root->addWidget(scroll, 1);
@@ -309,17 +310,30 @@ void MenuBarView::refreshRecent() {
     if (shown == 0) recent_->addWidget(textLabel(ui("No recent downloads"), Tone::secondary, true));
 }
 
-void MenuBarView::refreshStatistics() {
-    clearLayout(statistics_);
-    auto line = [this](const char* icon, const QString& label, const std::string& value) {
+void MenuBarView::buildStatistics() {
+    auto line = [this](const char* icon, const QString& label) {
         auto* row = iconTextLine(icon, label, std::nullopt, false);
-        row->addWidget(textLabel(qs(value), Tone::secondary));
+        auto* value = textLabel({}, Tone::secondary);
+        row->addWidget(value);
         statistics_->addLayout(row);
+        return value;
     };
-    line("calendar", ui("Today"), stats_.todaySummary());
-    line("arrow.down.to.line", ui("All time"), stats_.totalSummary());
-    if (auto last = stats_.lastActivityText())
-        statistics_->addLayout(iconTextLine("clock", ui("Last activity: ") + qs(*last), Tone::secondary, true));
+    today_ = line("calendar", ui("Today"));
+    allTime_ = line("arrow.down.to.line", ui("All time"));
+    lastActivity_ = textLabel({}, Tone::secondary, true);
+    lastActivityLine_ = new QWidget;
+    auto* last = iconTextLine("clock", lastActivity_, Tone::secondary, true);
+    last->setContentsMargins(0, 0, 0, 0);
+    lastActivityLine_->setLayout(last);
+    statistics_->addWidget(lastActivityLine_);
+}
+
+void MenuBarView::refreshStatistics() {
+    today_->setText(qs(stats_.todaySummary()));
+    allTime_->setText(qs(stats_.totalSummary()));
+    const auto last = stats_.lastActivityText();
+    if (last) lastActivity_->setText(ui("Last activity: ") + qs(*last));
+    lastActivityLine_->setVisible(last.has_value());
 }
 
 void MenuBarView::refreshDiskAndNetwork() {

@@ -52,6 +52,7 @@ private:
     void refreshConnections();
     void refreshActivity();
     void refreshRecent();
+    void buildStatistics();
     void refreshStatistics();
     void refreshDiskAndNetwork();
     void refreshButtons();
@@ -75,6 +76,10 @@ private:
     std::unordered_map<Uuid, std::unique_ptr<DownloadRow>> downloadRows_;
     QVBoxLayout* recent_ = nullptr;
     QVBoxLayout* statistics_ = nullptr;
+    QLabel* today_ = nullptr;
+    QLabel* allTime_ = nullptr;
+    QLabel* lastActivity_ = nullptr;
+    QWidget* lastActivityLine_ = nullptr;  // shown once there is a last activity
     QHBoxLayout* diskAndNetwork_ = nullptr;
     QPushButton* pauseButton_ = nullptr;
     QPushButton* soundButton_ = nullptr;
