@@ -3,7 +3,6 @@
 #include <QDateTime>
 #include <QGridLayout>
 #include <QLocale>
-#include <QMenu>
 #include <QScrollArea>
 #include <cstdio>
 
