@@ -123,7 +123,8 @@ public:
     const Observable<std::string>& networkType() const { return networkType_; }
 
     // Free space of the first connection's folder's volume (the home volume when it has none),
-    // in GiB. Read at start-up and when the popover opens.
+    // in GiB. Read at start-up and when the popover opens, on a worker: the figure follows
+    // once the loop is back.
     void refreshFreeDiskSpace();
     // Holds idle sleep off while an engine syncs and the setting allows it.
     void updateSleepPrevention();
@@ -184,6 +185,7 @@ private:
     Observable<bool> isPausedForDiskSpace_{false};
     Observable<bool> isPreventingSleep_{false};
     Observable<double> freeDiskSpaceGB_{0.0};
+    bool readingFreeSpace_ = false;  // a reading is on a worker
     Observable<std::string> networkType_{"Unknown"};
 
     KeyringPasswords passwords_;

@@ -142,10 +142,25 @@ void ConnectionsManager::allowSleep() {
 }
 
 void ConnectionsManager::refreshFreeDiskSpace() {
+    // A dead network mount blocks the reading for minutes: it runs on a worker, one at a time,
+    // and its figure lands on the loop only if the manager is still there.
+    if (readingFreeSpace_)
+        return;
+    readingFreeSpace_ = true;
     const auto& list = connections_();
     const bool useHome = list.empty() || list.front().localPath.empty();
-    freeDiskSpaceGB_.set(
-        freeSpaceGB(useHome ? homeDirectory() : std::filesystem::path(list.front().localPath)));
+    std::filesystem::path volume = useHome ? homeDirectory() : std::filesystem::path(list.front().localPath);
+    std::weak_ptr<bool> alive = alive_;
+    MainLoop& loop = services_.runtime.loop;
+    services_.runtime.workers.submit([this, alive, &loop, volume = std::move(volume)] {
+        const double free = freeSpaceGB(volume);
+        loop.post([this, alive, free] {
+            if (!alive.lock())
+                return;
+            readingFreeSpace_ = false;
+            freeDiskSpaceGB_.set(free);
+        });
+    });
 }
 
 }  // namespace tarnel

@@ -147,14 +147,17 @@ TEST_F(GuardsTest, FreeSpaceIsOfTheFirstConnectionsVolumeInGibibytes) {
     first.localPath.clear();
     second.localPath = (dir / "missing").string();
     launch({first, second});
+    loop.runUntilIdle();
     EXPECT_GT(manager->freeDiskSpaceGB()(), 0.0);  // the home volume, not the missing folder
     manager->removeConnection(first.id);
     manager->refreshFreeDiskSpace();
+    loop.runUntilIdle();
     EXPECT_EQ(manager->freeDiskSpaceGB()(), 0.0);  // unreadable
 
     second.localPath = dir.string();
     manager->updateConnection(second);
     manager->refreshFreeDiskSpace();
+    loop.runUntilIdle();
     const double gib = static_cast<double>(std::filesystem::space(dir).available) / (1 << 30);
     EXPECT_NEAR(manager->freeDiskSpaceGB()(), gib, 0.5);
 }

@@ -2,8 +2,12 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
+#include <QToolButton>
 
 #include "fleet_fixture.h"
 #include "shell/popover/menu_bar_view.h"
@@ -52,6 +56,58 @@ TEST_F(PopoverViewTest, ShowsTheFleetAndItsButtonsActOnIt) {
     ASSERT_TRUE(withText<QPushButton>(view, "Resume"));
     QTest::mouseClick(withText<QPushButton>(view, "Resume"), Qt::LeftButton);
     EXPECT_FALSE(manager->aggregatePaused()());
+}
+
+QLabel* startingWith(QWidget& parent, const char* text) {
+    for (auto* w : parent.findChildren<QLabel*>())
+        if (w->text().startsWith(QString::fromUtf8(text)) && w->isVisibleTo(&parent)) return w;
+    return nullptr;
+}
+
+TEST_F(PopoverViewTest, AnUpdateKeepsRowsAndTheirMenuOpenAndAMinuteRedrawsTimeTexts) {
+    auto studio = connection("Studio", "memory");
+    for (const char* folder : {"main", "photos"}) std::filesystem::create_directories(dir / folder);
+    studio.localPath = (dir / "main").string();
+    RoutingRule photos;
+    photos.matchType = RuleMatchType::fileType;
+    photos.matchValue = "jpg";
+    photos.destinationPath = (dir / "photos").string();
+    studio.routingRules = {photos};
+    manager->addConnection(studio);
+    manager->updateBookmark(dir / "main", studio.id);
+    manager->updateRuleBookmark(dir / "photos", photos.id);
+    stats.recordDownload(1000);
+    MenuBarView view(*manager, settings, stats, history, loop, {});
+    view.show();
+
+    QPointer<QWidget> row = view.findChild<QFrame*>(QStringLiteral("row"));
+    QToolButton* folders = nullptr;
+    for (auto* button : view.findChildren<QToolButton*>())
+        if (button->toolTip() == QStringLiteral("Open destination folders")) folders = button;
+    ASSERT_TRUE(row && folders && folders->menu());
+    QPointer<QMenu> menu = folders->menu();
+    menu->popup(folders->mapToGlobal(QPoint(0, folders->height())));
+    ASSERT_TRUE(menu->isVisible());
+
+    view.refresh();
+    QTest::qWait(1);  // what the update deleted is gone, what it added is shown
+    EXPECT_TRUE(row && row->isVisible());
+    EXPECT_TRUE(menu && menu->isVisible());
+    if (menu) menu->hide();
+
+    auto* lastActivity = startingWith(view, "Last activity: ");
+    ASSERT_TRUE(lastActivity);
+    EXPECT_EQ(lastActivity->text(), QStringLiteral("Last activity: just now"));
+    loop.advance(std::chrono::minutes(3));
+    // Nothing the view watches has changed; only its minute passes, made short here.
+    auto* minute = view.findChild<QTimer*>(QStringLiteral("timeTexts"));
+    ASSERT_TRUE(minute && minute->isActive());
+    EXPECT_EQ(minute->intervalAsDuration(), std::chrono::minutes(1));
+    minute->setInterval(1);
+    QTest::qWait(20);
+    lastActivity = startingWith(view, "Last activity: ");
+    ASSERT_TRUE(lastActivity);
+    EXPECT_EQ(lastActivity->text(), QStringLiteral("Last activity: 3 min ago"));
 }
 
 TEST_F(PopoverViewTest, SettingsTabsActOnTheirSettingsAndShowTheirNotes) {

@@ -1,20 +1,15 @@
 #include "shell/popover/menu_bar_view.h"
 
 #include <QDateTime>
-#include <QDesktopServices>
 #include <QGridLayout>
 #include <QLocale>
-#include <QMenu>
-#include <QProgressBar>
 #include <QScrollArea>
-#include <QUrl>
 #include <cstdio>
 
 #include "shell/bridge/qt_text.h"
 #include "shell/icons/symbol_icon.h"
 #include "shell/popover/popover_texts.h"
 #include "shell/popover/popover_widgets.h"
-#include "shell/popover/sync_indicator.h"
 #include "transfer/progress_text.h"
 
 namespace tarnel {
@@ -33,12 +28,7 @@ QFrame* separator() {
 
 QHBoxLayout* iconTextLine(const char* icon, const QString& text, std::optional<Tone> tone,
                           bool small) {
-    auto* line = new QHBoxLayout;
-    line->setSpacing(6);
-    line->addWidget(iconLabel(icon, small ? 12 : iconSize, tone));
-    line->addWidget(textLabel(text, tone, small));
-    line->addStretch();
-    return line;
+    return iconTextLine(icon, textLabel(text, tone, small), tone, small);
 }
 
 QString timeText(TimePoint t) {
@@ -48,8 +38,24 @@ QString timeText(TimePoint t) {
     return QLocale().toString(when, today ? QStringLiteral("HH:mm") : QStringLiteral("d MMM HH:mm"));
 }
 
-void openFolder(const std::filesystem::path& folder) {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(qs(folder.string())));
+// Shows a row per item of `items` in `layout`, in their order: the row an item's id already has
+// is updated in place, an item new here gets one from `make`, and the rows of items gone go.
+template <typename Row, typename Item, typename Make>
+void updateRows(QBoxLayout* layout, std::unordered_map<Uuid, std::unique_ptr<Row>>& rows,
+                const std::vector<Item>& items, Make make) {
+    std::vector<QWidget*> order;
+    std::unordered_map<Uuid, std::unique_ptr<Row>> kept;
+    for (const auto& item : items) {
+        auto& row = kept[item.id];
+        if (auto known = rows.find(item.id); known != rows.end())
+            row = std::move(known->second);
+        else
+            row = make(item);
+        row->update(item);
+        order.push_back(row->widget());
+    }
+    rows = std::move(kept);
+    placeInOrder(layout, order);
 }
 
 QPushButton* commandButton(QPushButton* button, std::function<void()> action) {
@@ -97,6 +103,8 @@ MenuBarView::MenuBarView(ConnectionsManager& manager, AppSettings& settings, Sta
     sections->addLayout(connectionsHeading);
     connections_ = new QVBoxLayout;
     connections_->setSpacing(2);
+    noConnections_ = textLabel(ui("No connections configured"), Tone::secondary);
+    connections_->addWidget(noConnections_);
     sections->addLayout(connections_);
 
     for (auto [heading, layout] :
@@ -108,6 +116,13 @@ MenuBarView::MenuBarView(ConnectionsManager& manager, AppSettings& settings, Sta
         (*layout)->setSpacing(3);
         sections->addLayout(*layout);
     }
+    downloads_ = new QVBoxLayout;
+    downloads_->setSpacing(3);
+    activity_->addLayout(downloads_);
+    activityLines_ = new QVBoxLayout;
+    activityLines_->setSpacing(3);
+    activity_->addLayout(activityLines_);
+    buildStatistics();
     sections->addStretch();
     scroll->setWidget(content);
     root->addWidget(scroll, 1);
@@ -154,7 +169,21 @@ MenuBarView::MenuBarView(ConnectionsManager& manager, AppSettings& settings, Sta
         ++index;
     }
     root->addLayout(footer);
+
+    timeTexts_.setObjectName(QStringLiteral("timeTexts"));
+    timeTexts_.setInterval(timeTextsEvery);
+    connect(&timeTexts_, &QTimer::timeout, this, &MenuBarView::refresh);
     refresh();
+}
+
+void MenuBarView::showEvent(QShowEvent* event) {
+    timeTexts_.start();
+    QWidget::showEvent(event);
+}
+
+void MenuBarView::hideEvent(QHideEvent* event) {
+    timeTexts_.stop();
+    QWidget::hideEvent(event);
 }
 
 void MenuBarView::buildHeader(QBoxLayout* into) {
@@ -215,110 +244,15 @@ void MenuBarView::refreshHeader() {
 }
 
 void MenuBarView::refreshConnections() {
-    clearLayout(connections_);
     const auto& list = manager_.connections()();
-    if (list.empty()) {
-        connections_->addWidget(textLabel(ui("No connections configured"), Tone::secondary));
-        return;
-    }
-    for (const auto& config : list) connections_->addWidget(connectionRow(config));
-}
-
-QWidget* MenuBarView::connectionRow(const ConnectionConfig& config) {
-    const auto found = manager_.engines().find(config.id);
-    const SyncEngine* engine = found == manager_.engines().end() ? nullptr : found->second.get();
-    auto* row = new ClickableRow([open = callbacks_.onOpenConnection, id = config.id] {
-        if (open) open(id);
+    updateRows(connections_, connectionRows_, list, [this](const ConnectionConfig& config) {
+        return std::make_unique<ConnectionRow>(config.id, manager_, clock_, callbacks_.onOpenConnection);
     });
-    auto* lines = new QVBoxLayout(row);
-    lines->setContentsMargins(4, 3, 4, 3);
-    lines->setSpacing(1);
-    auto* top = new QHBoxLayout;
-    top->setSpacing(6);
-
-    auto* power = new QToolButton;
-    power->setAutoRaise(true);
-    power->setIcon(QIcon(tintedPixmap(symbolIcon(config.enabled ? "power.circle.fill" : "power.circle"),
-                                      16, config.enabled ? toneColor(Tone::blue) : toneColor(Tone::secondary),
-                                      2.0)));
-    power->setToolTip(config.enabled ? ui("Disable connection") : ui("Enable connection"));
-    // The record as it is at the click, not as the row was drawn: a password read from the
-    // keyring since is in it.
-    QObject::connect(power, &QToolButton::clicked, power, [this, id = config.id] {
-        for (auto flipped : manager_.connections()())
-            if (flipped.id == id) {
-                flipped.enabled = !flipped.enabled;
-                manager_.updateConnection(flipped);
-                return;
-            }
-    });
-    top->addWidget(power);
-    top->addWidget(elidedLabel(qs(config.name), 130, true));
-
-    const int downloads = engine ? static_cast<int>(engine->activeDownloads()().size()) : 0;
-    if (downloads > 0) {
-        auto* badge = new QLabel(QString::number(downloads));
-        badge->setAlignment(Qt::AlignCenter);
-        badge->setMinimumWidth(18);
-        badge->setStyleSheet(QStringLiteral(
-            "background: #1a73e8; color: white; border-radius: 8px; padding: 0 5px; font-weight: bold;"));
-        top->addWidget(badge);
-    }
-    top->addStretch();
-    std::optional<EngineStatus> status;
-    if (engine) status = EngineStatus{engine->connectionState()(), engine->statusText()()};
-    auto* word = elidedLabel(qs(connectionStatusWord(config, status)), 100);
-    word->setStyleSheet(QStringLiteral("color: %1;").arg(toneColor(Tone::secondary).name()));
-    top->addWidget(word);
-
-    auto mode = SyncIndicator::Mode::none;
-    if (downloads > 0)
-        mode = SyncIndicator::Mode::downloading;
-    else if (engine && engine->connectionState()() == ConnectionState::syncing)
-        mode = SyncIndicator::Mode::syncing;
-    top->addWidget(new SyncIndicator(mode));
-    if (config.scheduleEnabled && !config.isWithinSchedule(clock_))
-        top->addWidget(iconLabel("clock", iconSize, Tone::secondary));
-    if (engine) top->addWidget(folderButton(config));
-    lines->addLayout(top);
-
-    auto* details = new QHBoxLayout;
-    details->setContentsMargins(26, 0, 0, 0);
-    details->addLayout(iconTextLine("arrow.down.to.line",
-                                    ui("Simultaneous downloads: ") + QString::number(config.maxConcurrentDownloads),
-                                    Tone::secondary, true));
-    details->addLayout(iconTextLine("clock", ui("Sync every ") + qs(pollIntervalText(config.pollInterval)),
-                                    Tone::secondary, true));
-    lines->addLayout(details);
-    return row;
-}
-
-QWidget* MenuBarView::folderButton(const ConnectionConfig& config) {
-    auto* button = new QToolButton;
-    button->setAutoRaise(true);
-    button->setIcon(symbolIcon("folder"));
-    const auto folders = manager_.destinationFolders(config.id);
-    if (folders.size() < 2) {
-        button->setToolTip(ui("Open destination folder"));
-        QObject::connect(button, &QToolButton::clicked, button, [folders] {
-            if (!folders.empty()) openFolder(folders.front().second);
-        });
-        return button;
-    }
-    button->setToolTip(ui("Open destination folders"));
-    button->setPopupMode(QToolButton::InstantPopup);
-    auto* menu = new QMenu(button);
-    for (std::size_t i = 0; i < folders.size(); ++i) {
-        const QString label = i == 0 ? ui("Open main folder") : qs(folders[i].first);
-        auto* action = menu->addAction(symbolIcon("folder"), label);
-        QObject::connect(action, &QAction::triggered, menu, [path = folders[i].second] { openFolder(path); });
-    }
-    button->setMenu(menu);
-    return button;
+    noConnections_->setVisible(list.empty());
 }
 
 void MenuBarView::refreshActivity() {
-    clearLayout(activity_);
+    clearLayout(activityLines_);
     std::vector<DownloadProgress> downloads;
     std::vector<TrackedFileSnapshot> waiting;
     for (const auto& config : manager_.connections()()) {
@@ -334,32 +268,14 @@ void MenuBarView::refreshActivity() {
         }
     }
     const auto plan = planActivity(downloads, waiting);
+    updateRows(downloads_, downloadRows_, plan.downloads,
+               [](const DownloadProgress&) { return std::make_unique<DownloadRow>(); });
     if (plan.monitoring()) {
-        activity_->addWidget(textLabel(ui("Monitoring — no transfers in progress"), Tone::secondary, true));
+        activityLines_->addWidget(textLabel(ui("Monitoring — no transfers in progress"), Tone::secondary, true));
         return;
     }
-    for (const auto& download : plan.downloads) {
-        auto* row = new QHBoxLayout;
-        row->addWidget(iconLabel("arrow.down.circle", 16, Tone::blue), 0, Qt::AlignTop);
-        auto* text = new QVBoxLayout;
-        text->setSpacing(1);
-        text->addWidget(elidedLabel(qs(download.fileName), 290, true));
-        auto* bar = new QProgressBar;
-        bar->setRange(0, 1000);
-        bar->setTextVisible(false);
-        bar->setFixedHeight(5);
-        if (download.totalBytes > 0)
-            bar->setValue(static_cast<int>(1000.0 * download.downloadedBytes / download.totalBytes));
-        text->addWidget(bar);
-        text->addWidget(textLabel(qs(download.connectionName) + QStringLiteral("  ·  ") +
-                                      qs(progressPercentText(download)) + QStringLiteral("  ·  ") +
-                                      qs(download.speedText()),
-                                  Tone::secondary, true));
-        row->addLayout(text, 1);
-        activity_->addLayout(row);
-    }
     if (plan.moreDownloading > 0)
-        activity_->addWidget(textLabel(QStringLiteral("+") + QString::number(plan.moreDownloading) +
+        activityLines_->addWidget(textLabel(QStringLiteral("+") + QString::number(plan.moreDownloading) +
                                            ui(" more downloading..."),
                                        Tone::secondary, true));
     for (const auto& file : plan.waiting) {
@@ -371,10 +287,10 @@ void MenuBarView::refreshActivity() {
         row->addWidget(textLabel(qs(formatSize(file.size)) + QStringLiteral("  ·  ") +
                                      qs(stabilityText(file.isGrowing, file.stableCount, file.requiredChecks)),
                                  Tone::secondary, true));
-        activity_->addLayout(row);
+        activityLines_->addLayout(row);
     }
     if (plan.moreWaiting > 0)
-        activity_->addWidget(textLabel(QString::number(plan.moreWaiting) + ui(" waiting for stability"),
+        activityLines_->addWidget(textLabel(QString::number(plan.moreWaiting) + ui(" waiting for stability"),
                                        Tone::secondary, true));
 }
 
@@ -393,17 +309,30 @@ void MenuBarView::refreshRecent() {
     if (shown == 0) recent_->addWidget(textLabel(ui("No recent downloads"), Tone::secondary, true));
 }
 
-void MenuBarView::refreshStatistics() {
-    clearLayout(statistics_);
-    auto line = [this](const char* icon, const QString& label, const std::string& value) {
+void MenuBarView::buildStatistics() {
+    auto line = [this](const char* icon, const QString& label) {
         auto* row = iconTextLine(icon, label, std::nullopt, false);
-        row->addWidget(textLabel(qs(value), Tone::secondary));
+        auto* value = textLabel({}, Tone::secondary);
+        row->addWidget(value);
         statistics_->addLayout(row);
+        return value;
     };
-    line("calendar", ui("Today"), stats_.todaySummary());
-    line("arrow.down.to.line", ui("All time"), stats_.totalSummary());
-    if (auto last = stats_.lastActivityText())
-        statistics_->addLayout(iconTextLine("clock", ui("Last activity: ") + qs(*last), Tone::secondary, true));
+    today_ = line("calendar", ui("Today"));
+    allTime_ = line("arrow.down.to.line", ui("All time"));
+    lastActivity_ = textLabel({}, Tone::secondary, true);
+    lastActivityLine_ = new QWidget;
+    auto* last = iconTextLine("clock", lastActivity_, Tone::secondary, true);
+    last->setContentsMargins(0, 0, 0, 0);
+    lastActivityLine_->setLayout(last);
+    statistics_->addWidget(lastActivityLine_);
+}
+
+void MenuBarView::refreshStatistics() {
+    today_->setText(qs(stats_.todaySummary()));
+    allTime_->setText(qs(stats_.totalSummary()));
+    const auto last = stats_.lastActivityText();
+    if (last) lastActivity_->setText(ui("Last activity: ") + qs(*last));
+    lastActivityLine_->setVisible(last.has_value());
 }
 
 void MenuBarView::refreshDiskAndNetwork() {

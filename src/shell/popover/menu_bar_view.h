@@ -3,14 +3,19 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <memory>
+#include <unordered_map>
 
 #include "fleet/connections_manager.h"
 #include "platform/clock.h"
 #include "records/app_settings.h"
 #include "records/history_service.h"
 #include "records/stats_service.h"
+#include "shell/popover/connection_row.h"
+#include "shell/popover/download_row.h"
 
 namespace tarnel {
 
@@ -22,7 +27,8 @@ struct MenuBarCallbacks {
 
 // The content of the popover: header, banner, connections, activity, recent files, counters,
 // disk and network, the bulk commands and the footer. `refresh` redraws it from the objects it
-// reads; `appeared` is called each time the popover opens.
+// reads, updating the rows it keeps in place; `appeared` is called each time the popover opens.
+// While it is on screen, texts that change with time alone are redrawn every minute.
 class MenuBarView final : public QWidget {
 public:
     static constexpr int width = 360;
@@ -31,8 +37,14 @@ public:
     MenuBarView(ConnectionsManager& manager, AppSettings& settings, StatsService& stats,
                 HistoryService& history, const Clock& clock, MenuBarCallbacks callbacks);
 
+    static constexpr std::chrono::minutes timeTextsEvery{1};
+
     void appeared();
     void refresh();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void buildHeader(QBoxLayout* into);
@@ -40,11 +52,10 @@ private:
     void refreshConnections();
     void refreshActivity();
     void refreshRecent();
+    void buildStatistics();
     void refreshStatistics();
     void refreshDiskAndNetwork();
     void refreshButtons();
-    QWidget* connectionRow(const ConnectionConfig& config);
-    QWidget* folderButton(const ConnectionConfig& config);
 
     ConnectionsManager& manager_;
     AppSettings& settings_;
@@ -57,12 +68,22 @@ private:
     QWidget* banner_ = nullptr;
     QHBoxLayout* bannerLayout_ = nullptr;
     QVBoxLayout* connections_ = nullptr;
+    QLabel* noConnections_ = nullptr;
+    std::unordered_map<Uuid, std::unique_ptr<ConnectionRow>> connectionRows_;
     QVBoxLayout* activity_ = nullptr;
+    QVBoxLayout* downloads_ = nullptr;  // the rows of `downloadRows_`, at the head of `activity_`
+    QVBoxLayout* activityLines_ = nullptr;  // the rest of `activity_`, made again at each update
+    std::unordered_map<Uuid, std::unique_ptr<DownloadRow>> downloadRows_;
     QVBoxLayout* recent_ = nullptr;
     QVBoxLayout* statistics_ = nullptr;
+    QLabel* today_ = nullptr;
+    QLabel* allTime_ = nullptr;
+    QLabel* lastActivity_ = nullptr;
+    QWidget* lastActivityLine_ = nullptr;  // shown once there is a last activity
     QHBoxLayout* diskAndNetwork_ = nullptr;
     QPushButton* pauseButton_ = nullptr;
     QPushButton* soundButton_ = nullptr;
+    QTimer timeTexts_{this};
 };
 
 }  // namespace tarnel

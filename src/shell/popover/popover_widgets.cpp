@@ -48,9 +48,22 @@ QLabel* elidedLabel(const QString& text, int width, bool bold) {
         font.setBold(true);
         label->setFont(font);
     }
-    label->setText(QFontMetrics(label->font()).elidedText(text, Qt::ElideMiddle, width));
-    if (label->text() != text) label->setToolTip(text);
+    setElidedText(label, text, width);
     return label;
+}
+
+void setElidedText(QLabel* label, const QString& text, int width) {
+    label->setText(QFontMetrics(label->font()).elidedText(text, Qt::ElideMiddle, width));
+    label->setToolTip(label->text() != text ? text : QString());
+}
+
+QHBoxLayout* iconTextLine(const char* icon, QLabel* label, std::optional<Tone> tone, bool small) {
+    auto* line = new QHBoxLayout;
+    line->setSpacing(6);
+    line->addWidget(iconLabel(icon, small ? 12 : 14, tone));
+    line->addWidget(label);
+    line->addStretch();
+    return line;
 }
 
 QLabel* sectionHeading(const QString& text) {
@@ -77,6 +90,14 @@ QToolButton* flatButton(const QString& text, const char* icon, std::function<voi
     return button;
 }
 
+void placeInOrder(QBoxLayout* layout, const std::vector<QWidget*>& widgets) {
+    for (int i = 0; i < static_cast<int>(widgets.size()); ++i) {
+        if (layout->indexOf(widgets[i]) == i) continue;
+        layout->removeWidget(widgets[i]);
+        layout->insertWidget(i, widgets[i]);
+    }
+}
+
 void clearLayout(QLayout* layout) {
     while (auto* item = layout->takeAt(0)) {
         if (auto* widget = item->widget()) {
@@ -87,6 +108,11 @@ void clearLayout(QLayout* layout) {
         }
         delete item;
     }
+}
+
+KeptRow::~KeptRow() {
+    widget_->hide();
+    widget_->deleteLater();
 }
 
 ClickableRow::ClickableRow(std::function<void()> onClick) : onClick_(std::move(onClick)) {

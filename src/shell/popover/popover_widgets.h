@@ -2,10 +2,12 @@
 
 #include <QColor>
 #include <QFrame>
+#include <QBoxLayout>
 #include <QLabel>
 #include <QLayout>
 #include <QToolButton>
 #include <functional>
+#include <vector>
 
 #include "shell/popover/popover_texts.h"
 
@@ -19,10 +21,31 @@ QLabel* iconLabel(const char* name, int size, std::optional<Tone> tone = std::nu
 QLabel* textLabel(const QString& text, std::optional<Tone> tone = std::nullopt, bool small = false);
 // Cut with "…" to fit `width` pixels; the whole text is the tool tip.
 QLabel* elidedLabel(const QString& text, int width, bool bold = false);
+void setElidedText(QLabel* label, const QString& text, int width);
+// An icon in `tone`'s colour before `label`, on a line whose rest stays empty.
+QHBoxLayout* iconTextLine(const char* icon, QLabel* label, std::optional<Tone> tone, bool small);
 QLabel* sectionHeading(const QString& text);
 QToolButton* flatButton(const QString& text, const char* icon, std::function<void()> action);
+// Puts `widgets` at the head of `layout` in this order, moving only those out of place, so
+// that rows kept across updates are neither remade nor hidden.
+void placeInOrder(QBoxLayout* layout, const std::vector<QWidget*>& widgets);
 // Deletes what the layout holds, widgets and nested layouts alike, once the loop is back.
 void clearLayout(QLayout* layout);
+
+// A row the popover keeps across updates. It owns its widget: when the row goes, the widget
+// leaves the screen and is deleted once the loop is back.
+class KeptRow {
+public:
+    explicit KeptRow(QWidget* widget) : widget_(widget) {}
+    ~KeptRow();
+    KeptRow(const KeptRow&) = delete;
+    KeptRow& operator=(const KeptRow&) = delete;
+
+    QWidget* widget() const { return widget_; }
+
+private:
+    QWidget* widget_;
+};
 
 // A row that calls `onClick` when clicked anywhere outside its own buttons.
 class ClickableRow final : public QFrame {

@@ -14,6 +14,8 @@ public:
     explicit SyncIndicator(Mode mode);
 
     Mode mode() const { return mode_; }
+    // Keeps the turn it has reached, so that an update in the middle of a sync does not jump.
+    void setMode(Mode mode);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -21,7 +23,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    Mode mode_;
+    Mode mode_ = Mode::none;
     QPixmap pixmap_;  // drawn once, turned at each frame
     double rotation_ = 0;
     QTimer frameClock_;
