@@ -1,11 +1,13 @@
 #include "engine/sync_engine.h"
 
+#include <malloc.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cmath>
 #include <system_error>
+#include <utility>
 #include <unordered_set>
 
 #include "platform/localized.h"
@@ -232,23 +234,28 @@ Task<void> SyncEngine::runPoll() {
         co_return;
     }
 
-    std::vector<FTPFileEntry> filtered;
-    for (auto& entry : listing)
-        if (passesListingFilters(entry)) filtered.push_back(std::move(entry));
+    std::erase_if(listing, [this](const auto& entry) { return !passesListingFilters(entry); });
 
     consecutiveFailures_ = 0;
     connectionState_.set(ConnectionState::connected);
     statusText_.set(localized("Connected"));
     lastSyncTime_.set(services_.runtime.clock.now());
 
-    auto stable = updateStability(filtered);
+    auto stable = updateStability(listing);
+    // In copy mode the listing holds every file ever fetched: it goes before the batch, which
+    // would otherwise hold it to the end.
+    const std::size_t listed = std::exchange(listing, {}).size();
     if (!stable.empty()) {
         log("Downloading " + std::to_string(stable.size()) + " stable file(s) to " +
             config_.localPath + " (writable: " +
             (isWritable(config_.localPath) ? "true" : "false") + ")");
         auto results = co_await downloadStableFiles(std::move(stable));
         co_await bookResults(results);
+        // The snapshots published before the batch name every file it fetched.
+        publishTrackedFiles();
     }
+    // The heap keeps the pages a large listing or batch freed unless asked to give them back.
+    if (listed >= largeListing) ::malloc_trim(0);
     endPoll();
 }
 
@@ -290,11 +297,10 @@ void SyncEngine::pollFailure(const std::string& message) {
 }
 
 std::vector<TrackedFile> SyncEngine::updateStability(const std::vector<FTPFileEntry>& entries) {
-    std::unordered_set<std::string> listed;
-    for (const auto& e : entries) listed.insert(trackingKey(e.name, e.relativePath));
-    std::erase_if(trackedFiles_, [&](const auto& kv) { return !listed.contains(kv.first); });
     downloadTracker_->newListing();
 
+    // The tracked files seen in this listing: as small as what is tracked, whatever the listing.
+    std::unordered_set<std::string> seen;
     const auto now = services_.runtime.clock.now();
     for (const auto& e : entries) {
         const std::string key = trackingKey(e.name, e.relativePath);
@@ -304,9 +310,12 @@ std::vector<TrackedFile> SyncEngine::updateStability(const std::vector<FTPFileEn
             trackedFiles_.erase(key);
             continue;
         }
-        if (auto retry = retryState_.find(key); retry != retryState_.end() && now < retry->second.nextRetry)
+        if (auto retry = retryState_.find(key); retry != retryState_.end() && now < retry->second.nextRetry) {
+            if (trackedFiles_.contains(key)) seen.insert(key);
             continue;
+        }
         if (auto it = trackedFiles_.find(key); it != trackedFiles_.end()) {
+            seen.insert(key);
             if (it->second.size != e.size) {
                 it->second.size = e.size;
                 it->second.stableCount = 0;
@@ -315,10 +324,20 @@ std::vector<TrackedFile> SyncEngine::updateStability(const std::vector<FTPFileEn
             }
             continue;
         }
+        seen.insert(key);
         trackedFiles_.emplace(key, TrackedFile{e.name, e.size, 0, now, e.relativePath});
         log("New: " + key + " (" + std::to_string(e.size) + " bytes)");
     }
+    std::erase_if(trackedFiles_, [&](const auto& kv) { return !seen.contains(kv.first); });
 
+    publishTrackedFiles();
+    std::vector<TrackedFile> stable;
+    for (const auto& [key, f] : trackedFiles_)
+        if (f.stableCount >= config_.requiredStableChecks) stable.push_back(f);
+    return stable;
+}
+
+void SyncEngine::publishTrackedFiles() {
     trackedFileCount_.set(static_cast<int>(trackedFiles_.size()));
     std::vector<TrackedFileSnapshot> snapshots;
     snapshots.reserve(trackedFiles_.size());
@@ -328,11 +347,6 @@ std::vector<TrackedFile> SyncEngine::updateStability(const std::vector<FTPFileEn
     std::sort(snapshots.begin(), snapshots.end(),
               [](const auto& a, const auto& b) { return a.name < b.name; });
     trackedSnapshots_.set(std::move(snapshots));
-
-    std::vector<TrackedFile> stable;
-    for (const auto& [key, f] : trackedFiles_)
-        if (f.stableCount >= config_.requiredStableChecks) stable.push_back(f);
-    return stable;
 }
 
 }  // namespace tarnel

@@ -119,7 +119,12 @@ private:
         bool ignoredByRouting = false;
     };
 
+    // A listing of at least this many files leaves enough freed memory to hand back to the system.
+    static constexpr std::size_t largeListing = 10000;
+
     bool passesListingFilters(const FTPFileEntry& entry) const;
+    // Publishes the count and the snapshots of the files tracked now.
+    void publishTrackedFiles();
     Task<std::vector<TransferResult>> downloadStableFiles(std::vector<TrackedFile> stable);
     Placement placementOf(const TrackedFile& file) const;
     // Records, in one write, the downloads of files[from...] up to recordsWrittenAhead of them

@@ -43,8 +43,11 @@ std::string joinedFrom(const std::vector<std::string_view>& pieces, std::size_t 
 }  // namespace
 
 std::vector<FTPFileEntry> parseListing(std::string_view text, bool includeDirectories) {
+    const auto lines = splitLines(text);
+    // One entry a row at most: a listing of many thousand rows grows no copies on the way.
     std::vector<FTPFileEntry> entries;
-    for (std::string_view line : splitLines(text)) {
+    entries.reserve(lines.size());
+    for (std::string_view line : lines) {
         line = trimmed(line);
         if (line.empty()) {
             continue;

@@ -185,6 +185,13 @@ TEST_F(EngineStateTest, FilesSettleOverPollsAndFilteredOnesAreNeverTracked) {
     std::vector<std::string> names;
     for (auto& s : engine->trackedSnapshots()()) names.push_back(s.name);
     EXPECT_EQ(names, (std::vector<std::string>{"a.jpg", "empty.jpg"}));
+
+    // a.jpg settles and is fetched within two more polls: the snapshots name it no longer.
+    loop.advance(60s);
+    EXPECT_EQ(engine->totalTransferred()(), 1);
+    names.clear();
+    for (auto& s : engine->trackedSnapshots()()) names.push_back(s.name);
+    EXPECT_EQ(names, (std::vector<std::string>{"empty.jpg"}));
 }
 
 TEST_F(EngineStateTest, TwoFoldersWithOneNameGiveTwoKeysAndDownloadedFilesAreSkipped) {
