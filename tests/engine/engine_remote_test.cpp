@@ -22,9 +22,9 @@ void writeFile(const fs::path& file, const std::string& content) {
 }
 
 // Content in which no two offsets repeat, so any misplaced byte shows.
-std::string pattern(std::size_t size, unsigned seed = 0) {
+std::string pattern(std::size_t size, unsigned salt = 0) {
     std::string s(size, '\0');
-    for (std::size_t i = 0; i < size; ++i) s[i] = static_cast<char>((i * 7919 + i / 251 + seed) & 0xFF);
+    for (std::size_t i = 0; i < size; ++i) s[i] = static_cast<char>((i * 7919 + i / 251 + salt) & 0xFF);
     return s;
 }
 
