@@ -111,9 +111,7 @@ void SyncEngine::recordAhead(const std::vector<TrackedFile>& files, std::size_t 
 }
 
 std::optional<PartialDownload> SyncEngine::ownPartial(const std::string& key) const {
-    auto record = services_.partialTracker.partial(key);
-    if (record && record->connectionId != config_.id.toString()) return std::nullopt;
-    return record;
+    return services_.partialTracker.partial(config_.id.toString(), key);
 }
 
 SyncEngine::Placement SyncEngine::placementOf(const TrackedFile& file) const {
@@ -167,9 +165,10 @@ RemoteService::ProgressCallback SyncEngine::progressReporter(const Uuid& rowId,
     auto& partials = services_.partialTracker;
     auto& loop = services_.runtime.loop;
     // Runs on the transfer's thread: it touches no engine state, only posts to the loop.
-    return [=, &partials, &loop](std::int64_t received, std::int64_t expected) {
+    return [=, &partials, &loop, connectionId = config_.id.toString()](std::int64_t received,
+                                                                       std::int64_t expected) {
         shared->speed.addSample(received);
-        partials.updateProgress(key, received);
+        partials.updateProgress(connectionId, key, received);
         const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
         const auto last = shared->lastPost.load();
         // The end of the download removes the row, so its last sample need not go through.
@@ -205,6 +204,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
     const Clock& clock = services_.runtime.clock;
     auto& partials = services_.partialTracker;
     const std::string key = trackingKey(file.name, file.relativePath);
+    const std::string connectionId = config_.id.toString();
     TransferResult result{file.name, file.name, file.size, false, config_.localPath,
                           std::nullopt, key, false, false};
     // A stopped engine (replaced or removed) begins nothing: its successor takes the file up.
@@ -233,7 +233,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
             result.destinationPath = folder;
             co_return result;
         }
-        const fs::path tempPath = partialFileURL(folder, file.name, config_.id.toString(), key);
+        const fs::path tempPath = partialFileURL(folder, file.name, connectionId, key);
 
         // An engine replaced by an edit may still be writing this file; it is left alone
         // until that transfer has ended.
@@ -273,7 +273,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
                     }
                 }
                 if (record->localTempPath != tempPath.string() || !fs::exists(tempPath, ec)) {
-                    partials.remove(key);
+                    partials.remove(connectionId, key);
                 } else {
                     auto size = fs::file_size(tempPath, ec);
                     const std::int64_t local = ec ? 0 : static_cast<std::int64_t>(size);
@@ -283,9 +283,9 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
                                     std::to_string(record->resumeAttempts) +
                                     " attempts, starting fresh",
                                 LogLevel::warning);
-                            partials.discard(key);
+                            partials.discard(connectionId, key);
                         } else {
-                            partials.incrementResumeAttempts(key);
+                            partials.incrementResumeAttempts(connectionId, key);
                             log("Resuming: " + key + " from " + formatFileByteCount(local) +
                                 " (attempt " + std::to_string(record->resumeAttempts + 1) + "/" +
                                 std::to_string(config_.maxResumeAttempts) + ")");
@@ -294,7 +294,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
                         }
                     } else {
                         log("Remote file changed, discarding partial: " + key);
-                        partials.discard(key);
+                        partials.discard(connectionId, key);
                     }
                 }
             }
@@ -304,7 +304,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         if (!resume && !recordedAhead) {
             const auto now = clock.now();
             partials.record(
-                {key, tempPath.string(), file.size, 0, config_.id.toString(), now, now, 0, ""});
+                {key, tempPath.string(), file.size, 0, connectionId, now, now, 0, ""});
         }
         DownloadProgress row;
         row.fileName = file.name;
@@ -338,7 +338,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
                 log("Could not remove empty partial " + tempPath.filename().string() + ": " +
                         removeError.message(),
                     LogLevel::warning);
-            partials.remove(key);
+            partials.remove(connectionId, key);
             result.errorMessage = FTPError::emptyFile(file.name).errorDescription();
             co_return result;
         }
@@ -357,9 +357,9 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         // record can ever stand for a later file of the same name.
         fs::path placed = uniqueDestinationURL(fs::path(folder) / file.name);
         if (config_.deleteAfterDownload)
-            partials.remove(key);
+            partials.remove(connectionId, key);
         else
-            partials.markPlaced(key, placed.string());
+            partials.markPlaced(connectionId, key, placed.string());
         moveFile(tempPath, placed);
 
         // Verified and in its folder, the file is downloaded: a step below that fails leaves it
@@ -391,7 +391,8 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
             if (newName == file.name) return;
             if (auto bad = remotePathProblem(newName)) throw LocalFailure{*bad};
             fs::path renamed = uniqueDestinationURL(placed.parent_path() / newName);
-            if (!config_.deleteAfterDownload) partials.markPlaced(key, renamed.string());
+            if (!config_.deleteAfterDownload)
+                partials.markPlaced(connectionId, key, renamed.string());
             moveFile(placed, renamed);
             log("Renamed: " + file.name + " \u2192 " + renamed.filename().string());
             placed = renamed;

@@ -46,7 +46,8 @@ SyncEngine::SyncEngine(ConnectionConfig config, std::unique_ptr<RemoteService> f
 // The timer and the sleep observers end with their handles. Records of placed files go with
 // the engine that would have dropped them at its next poll.
 SyncEngine::~SyncEngine() {
-    for (const auto& key : placedRecords_) services_.partialTracker.remove(key);
+    for (const auto& key : placedRecords_)
+        services_.partialTracker.remove(config_.id.toString(), key);
 }
 
 void SyncEngine::log(const std::string& text, LogLevel level) const {
@@ -205,7 +206,8 @@ Task<void> SyncEngine::runPoll() {
     if (!placedRecords_.empty()) {
         // Their history entries are written by now: the records that stood for them can go.
         services_.historyService.flush();
-        for (const auto& key : placedRecords_) services_.partialTracker.remove(key);
+        for (const auto& key : placedRecords_)
+            services_.partialTracker.remove(config_.id.toString(), key);
         placedRecords_.clear();
     }
     if (auto error = checkLocalFolder()) {

@@ -19,16 +19,6 @@ CREATE TABLE IF NOT EXISTS downloaded(
     connection_id TEXT NOT NULL,
     entry TEXT NOT NULL,
     PRIMARY KEY(connection_id, entry)) WITHOUT ROWID;
-CREATE TABLE IF NOT EXISTS partials(
-    remote_path TEXT PRIMARY KEY,
-    local_temp_path TEXT NOT NULL,
-    expected_size INTEGER NOT NULL,
-    downloaded_bytes INTEGER NOT NULL,
-    connection_id TEXT NOT NULL,
-    started_at REAL NOT NULL,
-    last_resumed_at REAL NOT NULL,
-    resume_attempts INTEGER NOT NULL,
-    placed_path TEXT NOT NULL) WITHOUT ROWID;
 CREATE TABLE IF NOT EXISTS history(
     seq INTEGER PRIMARY KEY,
     id TEXT NOT NULL,
@@ -46,6 +36,23 @@ CREATE TABLE IF NOT EXISTS migrated(
     store TEXT PRIMARY KEY) WITHOUT ROWID;
 )";
 
+// One record per connection and remote path: two connections may fetch the same path at once.
+const char* const partialsColumns = R"(
+    remote_path TEXT NOT NULL,
+    local_temp_path TEXT NOT NULL,
+    expected_size INTEGER NOT NULL,
+    downloaded_bytes INTEGER NOT NULL,
+    connection_id TEXT NOT NULL,
+    started_at REAL NOT NULL,
+    last_resumed_at REAL NOT NULL,
+    resume_attempts INTEGER NOT NULL,
+    placed_path TEXT NOT NULL,
+    PRIMARY KEY(connection_id, remote_path)) WITHOUT ROWID;
+)";
+
+// The layout of the tables, in PRAGMA user_version: 0 had one partial record per remote path.
+constexpr int layoutVersion = 1;
+
 const std::filesystem::path inMemory = ":memory:";
 
 void check(sqlite3* db, int rc, const char* what) {
@@ -55,6 +62,39 @@ void check(sqlite3* db, int rc, const char* what) {
 
 void execute(sqlite3* db, const char* sql) {
     check(db, sqlite3_exec(db, sql, nullptr, nullptr, nullptr), sql);
+}
+
+int userVersion(sqlite3* db) {
+    sqlite3_stmt* version = nullptr;
+    check(db, sqlite3_prepare_v2(db, "PRAGMA user_version", -1, &version, nullptr), "version");
+    const int stepped = sqlite3_step(version);
+    const int value = stepped == SQLITE_ROW ? sqlite3_column_int(version, 0) : 0;
+    sqlite3_finalize(version);
+    check(db, stepped, "version");
+    return value;
+}
+
+// Brings the tables of an older layout to this one in one transaction (rows kept), so that a
+// crash midway leaves the old layout to be upgraded again.
+void upgradeLayout(sqlite3* db) {
+    if (userVersion(db) >= layoutVersion) return;
+    const std::string upgrade =
+        std::string("BEGIN IMMEDIATE;"
+                    "CREATE TABLE IF NOT EXISTS partials(") + partialsColumns +
+        "CREATE TABLE partials_keyed(" + partialsColumns +
+        "INSERT INTO partials_keyed SELECT remote_path, local_temp_path, expected_size, "
+        "downloaded_bytes, connection_id, started_at, last_resumed_at, resume_attempts, "
+        "placed_path FROM partials;"
+        "DROP TABLE partials;"
+        "ALTER TABLE partials_keyed RENAME TO partials;"
+        "PRAGMA user_version = " + std::to_string(layoutVersion) + ";"
+        "COMMIT;";
+    try {
+        tarnel::execute(db, upgrade.c_str());
+    } catch (const JournalError&) {
+        sqlite3_exec(db, "ROLLBACK", nullptr, nullptr, nullptr);
+        throw;
+    }
 }
 
 // Opens the file and readies it; throws JournalError on a file that is not a sound journal.
@@ -90,6 +130,7 @@ sqlite3* openChecked(const std::filesystem::path& file) {
         if (verdict != "ok")
             throw JournalError("check: " + verdict);
         tarnel::execute(db, schema);
+        upgradeLayout(db);
     } catch (const JournalError&) {
         sqlite3_close_v2(db);
         throw;

@@ -56,8 +56,11 @@ void writeRow(Journal& j, const PartialDownload& p) {
         .step();
 }
 
-void deleteRow(Journal& j, const std::string& remotePath) {
-    j.statement("DELETE FROM partials WHERE remote_path = ?1").bind(1, remotePath).step();
+void deleteRow(Journal& j, const std::string& connectionId, const std::string& remotePath) {
+    j.statement("DELETE FROM partials WHERE connection_id = ?1 AND remote_path = ?2")
+        .bind(1, connectionId)
+        .bind(2, remotePath)
+        .step();
 }
 
 const char* const selectAll =
@@ -66,16 +69,19 @@ const char* const selectAll =
 const char* const selectOne =
     "SELECT remote_path, local_temp_path, expected_size, downloaded_bytes, connection_id, "
     "started_at, last_resumed_at, resume_attempts, placed_path FROM partials "
-    "WHERE remote_path = ?1";
+    "WHERE connection_id = ?1 AND remote_path = ?2";
 
-// The rows whose key is `remotePath`, or all of them when it is empty.
-std::map<std::string, PartialDownload> loadRows(Journal& journal, const std::string& remotePath = {}) {
-    std::map<std::string, PartialDownload> partials;
+using Key = std::pair<std::string, std::string>;
+
+// The row of `key`, or all of them when it is empty.
+std::map<Key, PartialDownload> loadRows(Journal& journal, const Key& key = {}) {
+    std::map<Key, PartialDownload> partials;
     try {
         journal.read([&](Journal& j) {
             // Two statements: one condition with an OR would scan the table for one key.
-            auto& rows = remotePath.empty() ? j.statement(selectAll)
-                                            : j.statement(selectOne).bind(1, remotePath);
+            auto& rows = key.second.empty()
+                             ? j.statement(selectAll)
+                             : j.statement(selectOne).bind(1, key.first).bind(2, key.second);
             while (rows.step()) {
                 PartialDownload p{rows.text(0),
                                   rows.text(1),
@@ -86,7 +92,8 @@ std::map<std::string, PartialDownload> loadRows(Journal& journal, const std::str
                                   fromReferenceSeconds(rows.real(6)),
                                   static_cast<int>(rows.integer(7)),
                                   rows.text(8)};
-                partials.emplace(p.remotePath, std::move(p));
+                Key found{p.connectionId, p.remotePath};
+                partials.emplace(std::move(found), std::move(p));
             }
         });
     } catch (const JournalError&) {
@@ -102,9 +109,7 @@ void migrate(Journal& journal, const std::filesystem::path& partialsFile) {
         for (const auto& p : partials)
             writeRow(j, p);
         return std::all_of(partials.begin(), partials.end(), [&](const PartialDownload& p) {
-            return j.statement("SELECT 1 FROM partials WHERE remote_path = ?1")
-                .bind(1, p.remotePath)
-                .step();
+            return j.statement(selectOne).bind(1, p.connectionId).bind(2, p.remotePath).step();
         });
     });
 }
@@ -139,14 +144,14 @@ void PartialDownloadTracker::flush() {
     journal_->flush();
 }
 
-void PartialDownloadTracker::writeLocked(const std::vector<std::string>& keys, bool commitNow) {
+void PartialDownloadTracker::writeLocked(const std::vector<Key>& keys, bool commitNow) {
     journal_->write([&](Journal& j) {
         for (const auto& key : keys) {
             heldBack_.erase(key);
             if (auto it = partials_.find(key); it != partials_.end())
                 writeRow(j, it->second);
             else
-                deleteRow(j, key);
+                deleteRow(j, key.first, key.second);
         }
     });
     if (commitNow)
@@ -161,65 +166,69 @@ void PartialDownloadTracker::writeHeldBackLocked() {
 
 void PartialDownloadTracker::record(std::span<const PartialDownload> partials) {
     std::lock_guard lock(mutex_);
-    std::vector<std::string> keys;
+    std::vector<Key> keys;
     for (const PartialDownload& partial : partials) {
-        placedByEarlierRun_.erase(partial.remotePath);
-        partials_.insert_or_assign(partial.remotePath, partial);
-        keys.push_back(partial.remotePath);
+        Key key{partial.connectionId, partial.remotePath};
+        placedByEarlierRun_.erase(key);
+        partials_.insert_or_assign(key, partial);
+        keys.push_back(std::move(key));
     }
     writeLocked(keys, true);
 }
 
 std::optional<PartialDownload> PartialDownloadTracker::partial(
-    const std::string& remotePath) const {
+    const std::string& connectionId, const std::string& remotePath) const {
     std::lock_guard lock(mutex_);
-    return findLocked(remotePath);
+    return findLocked({connectionId, remotePath});
 }
 
-std::optional<PartialDownload> PartialDownloadTracker::findLocked(
-    const std::string& remotePath) const {
-    if (auto it = partials_.find(remotePath); it != partials_.end())
+std::optional<PartialDownload> PartialDownloadTracker::findLocked(const Key& key) const {
+    if (auto it = partials_.find(key); it != partials_.end())
         return it->second;
-    if (remotePath.empty())
+    if (key.second.empty())
         return std::nullopt;
-    auto placed = loadRows(*journal_, remotePath);  // a placed file's, kept on disk alone
+    auto placed = loadRows(*journal_, key);  // a placed file's, kept on disk alone
     if (placed.empty())
         return std::nullopt;
     return std::move(placed.begin()->second);
 }
 
-void PartialDownloadTracker::updateProgress(const std::string& remotePath, std::int64_t bytes) {
+void PartialDownloadTracker::updateProgress(const std::string& connectionId,
+                                            const std::string& remotePath, std::int64_t bytes) {
     std::lock_guard lock(mutex_);
-    auto it = partials_.find(remotePath);
+    auto it = partials_.find({connectionId, remotePath});
     if (it == partials_.end())
         return;
     it->second.downloadedBytes = bytes;
     it->second.lastResumedAt = clock_.now();
-    heldBack_.insert(remotePath);
+    heldBack_.insert(it->first);
     if (clock_.now() - lastWrite_ >= progressWriteInterval)
         writeHeldBackLocked();
 }
 
-void PartialDownloadTracker::incrementResumeAttempts(const std::string& remotePath) {
+void PartialDownloadTracker::incrementResumeAttempts(const std::string& connectionId,
+                                                     const std::string& remotePath) {
     std::lock_guard lock(mutex_);
-    auto it = partials_.find(remotePath);
+    auto it = partials_.find({connectionId, remotePath});
     if (it == partials_.end())
         return;
     it->second.resumeAttempts += 1;
     it->second.lastResumedAt = clock_.now();
-    writeLocked({remotePath}, true);
+    writeLocked({it->first}, true);
 }
 
-void PartialDownloadTracker::markPlaced(const std::string& remotePath,
+void PartialDownloadTracker::markPlaced(const std::string& connectionId,
+                                        const std::string& remotePath,
                                         const std::string& placedPath) {
     std::lock_guard lock(mutex_);
-    auto record = findLocked(remotePath);
+    const Key key{connectionId, remotePath};
+    auto record = findLocked(key);
     if (!record)
         return;
     record->placedPath = placedPath;
     // Only a restart reads it from here on: the row stays until remove(), the memory goes now,
     // so that a batch of many thousand files kept on the server holds none of them.
-    partials_.erase(remotePath);
+    partials_.erase(key);
     journal_->write([&](Journal& j) { writeRow(j, *record); });
     journal_->commit();
 }
@@ -228,7 +237,7 @@ std::vector<PartialDownload> PartialDownloadTracker::takePlacedByEarlierRun(
     const std::string& connectionId) {
     std::lock_guard lock(mutex_);
     std::vector<PartialDownload> taken;
-    std::vector<std::string> keys;
+    std::vector<Key> keys;
     for (auto key = placedByEarlierRun_.begin(); key != placedByEarlierRun_.end();) {
         auto it = partials_.find(*key);
         if (it == partials_.end() || it->second.placedPath.empty()) {
@@ -247,23 +256,27 @@ std::vector<PartialDownload> PartialDownloadTracker::takePlacedByEarlierRun(
     return taken;
 }
 
-void PartialDownloadTracker::remove(const std::string& remotePath) {
+void PartialDownloadTracker::remove(const std::string& connectionId,
+                                    const std::string& remotePath) {
     // Committed with the journal's next commit: a record left by a crash claims a temporary
     // file that is no longer there, which the next transfer of that name drops or replaces.
     std::lock_guard lock(mutex_);
-    partials_.erase(remotePath);
-    writeLocked({remotePath}, false);  // also the row of a placed file, which memory lets go of
+    const Key key{connectionId, remotePath};
+    partials_.erase(key);
+    writeLocked({key}, false);  // also the row of a placed file, which memory lets go of
 }
 
-void PartialDownloadTracker::discard(const std::string& remotePath) {
+void PartialDownloadTracker::discard(const std::string& connectionId,
+                                     const std::string& remotePath) {
     std::lock_guard lock(mutex_);
-    auto record = findLocked(remotePath);
+    const Key key{connectionId, remotePath};
+    auto record = findLocked(key);
     if (!record)
         return;
     std::error_code ignored;  // a file that stays is swept as an orphan at the next start
     std::filesystem::remove(record->localTempPath, ignored);
-    partials_.erase(remotePath);
-    writeLocked({remotePath}, true);
+    partials_.erase(key);
+    writeLocked({key}, true);
 }
 
 void PartialDownloadTracker::removeConnection(const std::string& connectionId) {

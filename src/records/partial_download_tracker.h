@@ -34,8 +34,9 @@ struct PartialDownload {
     bool operator==(const PartialDownload&) const = default;
 };
 
-// The records of partial downloads of all engines, one row each in the journal.
-// Records are keyed by tracking key alone: two connections with the same key share one record.
+// The records of partial downloads of all engines, one row each in the journal, keyed by
+// connection and tracking key: two connections often fetch the same remote path ("/scan.pdf"
+// from two servers), and neither may resume, place or book by the other's record.
 // Every operation is callable from any thread. A record is committed when record() returns,
 // before the download it describes writes a byte, and its removal with its file when discard()
 // returns, so that a crash never leaves a temporary file that no record claims. The byte count
@@ -60,20 +61,23 @@ public:
     PartialDownloadTracker(const PartialDownloadTracker&) = delete;
     PartialDownloadTracker& operator=(const PartialDownloadTracker&) = delete;
 
-    // Inserts or replaces each record under its remotePath, in one commit.
+    // Inserts or replaces each record under its connection and remotePath, in one commit.
     void record(std::span<const PartialDownload> partials);
     void record(const PartialDownload& partial) { record({&partial, 1}); }
-    std::optional<PartialDownload> partial(const std::string& remotePath) const;
-    void updateProgress(const std::string& remotePath, std::int64_t bytes);
-    void incrementResumeAttempts(const std::string& remotePath);
-    void markPlaced(const std::string& remotePath, const std::string& placedPath);
+    std::optional<PartialDownload> partial(const std::string& connectionId,
+                                           const std::string& remotePath) const;
+    void updateProgress(const std::string& connectionId, const std::string& remotePath,
+                        std::int64_t bytes);
+    void incrementResumeAttempts(const std::string& connectionId, const std::string& remotePath);
+    void markPlaced(const std::string& connectionId, const std::string& remotePath,
+                    const std::string& placedPath);
     // Removes and returns the records of `connectionId` that an earlier run of the program had
     // marked placed: that run may have ended before the files' bookings reached the disk.
     std::vector<PartialDownload> takePlacedByEarlierRun(const std::string& connectionId);
     // Drops the record; the temporary file stays.
-    void remove(const std::string& remotePath);
+    void remove(const std::string& connectionId, const std::string& remotePath);
     // Drops the record and deletes its temporary file.
-    void discard(const std::string& remotePath);
+    void discard(const std::string& connectionId, const std::string& remotePath);
     // Drops the records of a deleted connection; their files are orphans from then on.
     void removeConnection(const std::string& connectionId);
 
@@ -93,19 +97,21 @@ public:
     void flush();
 
 private:
+    using Key = std::pair<std::string, std::string>;  // connection id, remote path
+
     // Writes the rows of `keys` as they are in memory now (none left: the row goes).
     // Called with mutex_ held.
-    void writeLocked(const std::vector<std::string>& keys, bool commitNow);
+    void writeLocked(const std::vector<Key>& keys, bool commitNow);
     void writeHeldBackLocked();
     // The record in memory, or a placed file's on disk.
-    std::optional<PartialDownload> findLocked(const std::string& remotePath) const;
+    std::optional<PartialDownload> findLocked(const Key& key) const;
 
     std::shared_ptr<Journal> journal_;
     const Clock& clock_;
     mutable std::mutex mutex_;
-    std::map<std::string, PartialDownload> partials_;
-    std::set<std::string> placedByEarlierRun_;  // keys, as loaded
-    std::set<std::string> heldBack_;            // keys whose byte count waits for pacing
+    std::map<Key, PartialDownload> partials_;
+    std::set<Key> placedByEarlierRun_;  // as loaded
+    std::set<Key> heldBack_;            // records whose byte count waits for pacing
     struct Claims {
         std::mutex mutex;
         std::set<std::filesystem::path> paths;

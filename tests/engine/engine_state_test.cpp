@@ -220,7 +220,7 @@ TEST_F(EngineStateTest, EachDownloadIsOnRecordBeforeItStartsAndAMoveLeavesNoReco
     std::vector<std::string> unrecorded;
     server->beforeDownload = [&](const std::string& name) {
         // What a restart would read now.
-        if (!PartialDownloadTracker(dir / "partials.json", &loop).partial(name))
+        if (!PartialDownloadTracker(dir / "partials.json", &loop).partial(config.id.toString(), name))
             unrecorded.push_back(name);
     };
     auto engine = makeEngine();
@@ -233,7 +233,7 @@ TEST_F(EngineStateTest, EachDownloadIsOnRecordBeforeItStartsAndAMoveLeavesNoReco
     partials.flush();
     for (int i = 0; i < 70; ++i)
         EXPECT_FALSE(PartialDownloadTracker(dir / "partials.json", &loop)
-                         .partial("f" + std::to_string(i) + ".bin"));
+                         .partial(config.id.toString(), "f" + std::to_string(i) + ".bin"));
 }
 
 TEST_F(EngineStateTest, FailuresOfAnyKindFailOneFileOrOnePollAndTheEngineGoesOn) {
@@ -328,8 +328,9 @@ TEST_F(EngineStateTest, TwoConnectionsWithOneNameInOneFolderKeepTheirOwnBytes) {
 
     EXPECT_EQ(readFile(inbox / "report.csv"), "BBBBBBBBBB");
     EXPECT_EQ(readFile(inbox / "report (1).csv"), "AAAAAAAAAA");
-    // Its record taken by the other connection's download, the cut file goes at the next sweep.
-    EXPECT_EQ(partials.orphanedFiles(inbox), std::vector<fs::path>{cut});
+    // Its record untouched by the other connection's download, the cut file was resumed.
+    EXPECT_TRUE(hasLogLine("[Test] Resuming: report.csv from 4 bytes"));
+    EXPECT_FALSE(fs::exists(cut));
 }
 
 // A file moved off the server is on disk, under its final name, before its delete is sent; one
@@ -393,7 +394,7 @@ TEST_F(EngineStateTest, AFilePlacedByARunThatDiedIsBookedNotFetchedAgain) {
         const auto placed = [&](const std::string& key, int size, const std::string& at) {
             earlierRun.record({key, (dir / "inbox" / (key + ".tarnel-partial")).string(), size,
                                size, config.id.toString(), then, then, 0, ""});
-            earlierRun.markPlaced(key, (dir / "inbox" / at).string());
+            earlierRun.markPlaced(config.id.toString(), key, (dir / "inbox" / at).string());
         };
         placed("a.txt", 5, "a.txt");
         placed("c.txt", 7, "gone.txt");  // its placed file has gone since: fetched as usual
@@ -414,13 +415,13 @@ TEST_F(EngineStateTest, AFilePlacedByARunThatDiedIsBookedNotFetchedAgain) {
     EXPECT_EQ(readFile(dir / "inbox" / "c.txt"), "charlie");
     EXPECT_EQ(history.entries()().size(), 4u);
     EXPECT_EQ(engine->totalTransferred()(), 3);  // d.txt was counted by the run that placed it
-    EXPECT_EQ(reloaded.partial("b.txt")->placedPath, (dir / "inbox" / "b.txt").string());
+    EXPECT_EQ(reloaded.partial(config.id.toString(), "b.txt")->placedPath, (dir / "inbox" / "b.txt").string());
 
     // Booked once: another start of the connection finds nothing left to book.
     engine->start();
     loop.advance(30s);
     for (const char* key : {"a.txt", "b.txt", "c.txt", "d.txt"})
-        EXPECT_FALSE(reloaded.partial(key)) << key;
+        EXPECT_FALSE(reloaded.partial(config.id.toString(), key)) << key;
     EXPECT_EQ(history.entries()().size(), 4u);
 }
 

@@ -101,7 +101,7 @@ TEST_P(EngineTransferTest, AGrowingFileIsFetchedOnceSettledIntoItsDatedRenamedPl
     EXPECT_EQ(stats.totalFiles(), 1);
     ASSERT_EQ(history.entries()().size(), 1u);
     EXPECT_EQ(history.entries()()[0].finalFilename, "001_photo.raw");
-    EXPECT_FALSE(partials.partial("photo.raw").has_value());
+    EXPECT_FALSE(partials.partial(config.id.toString(), "photo.raw").has_value());
 }
 
 INSTANTIATE_TEST_SUITE_P(Protocols, EngineTransferTest,

@@ -84,7 +84,7 @@ protected:
         HistoryService history(loop, journal, dir / "history.json");
         ASSERT_EQ(history.entries()().size(), 500u);
         EXPECT_EQ(history.entries()().front().filename, "h499");
-        EXPECT_EQ(PartialDownloadTracker(journal, dir / "partials.json").partial("p7")->resumeAttempts,
+        EXPECT_EQ(PartialDownloadTracker(journal, dir / "partials.json").partial(connection, "p7")->resumeAttempts,
                   1);
         // Gone from the old stores, each kept beside them as it was.
         EXPECT_FALSE(store.contains("downloaded_files_" + connection));
