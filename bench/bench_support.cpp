@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <spawn.h>
 #include <sys/wait.h>
 
@@ -74,6 +75,11 @@ long residentKiB() {
         if (line.starts_with("VmRSS:"))
             return std::stol(line.substr(6));
     return -1;
+}
+
+long liveHeapKiB() {
+    const struct mallinfo2 heap = ::mallinfo2();
+    return static_cast<long>((heap.uordblks + heap.hblkhd) / 1024);
 }
 
 }  // namespace tarnel::bench

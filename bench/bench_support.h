@@ -29,6 +29,9 @@ double cpuSeconds(int who = RUSAGE_SELF);
 double secondsSince(Clock::time_point start);
 // Resident memory of this process, in KiB.
 long residentKiB();
+// What the heap holds in use (all arenas, mapped blocks included), in KiB: resident memory less
+// this is what the allocator keeps of freed memory, the program's code and its libraries.
+long liveHeapKiB();
 
 // Runs a peer tool to its end, quietly; its exit code.
 int run(std::vector<std::string> argv);

@@ -136,8 +136,8 @@ int copyMode(int count, bool withPeer) {
     const long afterRun = residentKiB();
     ::malloc_trim(0);  // what the heap keeps of freed memory, apart from what is still in use
     std::printf("  resident memory after the run: %.1f MiB (%.1f MiB once the heap gives back what "
-                "is free); journal %.1f MiB\n",
-                afterRun / 1024.0, residentKiB() / 1024.0,
+                "is free, %.1f MiB of heap in use); journal %.1f MiB\n",
+                afterRun / 1024.0, residentKiB() / 1024.0, liveHeapKiB() / 1024.0,
                 fs::file_size(scratch / "journal.db") / 1048576.0);
 
     const auto pollCpu = [&] {
@@ -154,7 +154,8 @@ int copyMode(int count, bool withPeer) {
                 "core; %zu fetched again\n",
                 count, first + second, first, second, (first + second) / 60 * 100,
                 placed.size() - n);
-    std::printf("  resident memory after the idle minute: %.1f MiB\n", residentKiB() / 1024.0);
+    std::printf("  resident memory after the idle minute: %.1f MiB (%.1f MiB of heap in use)\n",
+                residentKiB() / 1024.0, liveHeapKiB() / 1024.0);
 
     log.flush();
     fs::remove_all(folder.parent_path());
