@@ -218,8 +218,10 @@ void PartialDownloadTracker::markPlaced(const std::string& remotePath,
         return;
     record->placedPath = placedPath;
     // Only a restart reads it from here on: the row stays until remove(), the memory goes now,
-    // so that a batch of many thousand files kept on the server holds none of them.
+    // so that a batch of many thousand files kept on the server holds none of them. A byte
+    // count still held back goes too: written later, it would find no record and drop the row.
     partials_.erase(remotePath);
+    heldBack_.erase(remotePath);
     journal_->write([&](Journal& j) { writeRow(j, *record); });
     journal_->commit();
 }
