@@ -101,6 +101,10 @@ int copyMode(int count, bool withPeer) {
         const double first = rate(placed, 1, n / 10), last = rate(placed, n - n / 10 + 1, n);
         std::printf("  rate over the first / last tenth: %.0f / %.0f files/s (flatness %.2f)\n",
                     first, last, last / first);
+        std::printf("  rate over each tenth:");
+        for (std::size_t tenth = 0; tenth < 10; ++tenth)
+            std::printf(" %.0f", rate(placed, tenth * n / 10 + 1, (tenth + 1) * n / 10));
+        std::printf("\n");
     }
     services.history.flush();
     const long afterRun = residentKiB();
