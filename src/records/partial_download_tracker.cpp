@@ -148,9 +148,7 @@ void PartialDownloadTracker::writeLocked(const std::vector<std::string>& keys, b
             else
                 deleteRow(j, key);
         }
-    });
-    if (commitNow)
-        journal_->commit();
+    }, commitNow);
 }
 
 void PartialDownloadTracker::writeHeldBackLocked() {
@@ -222,8 +220,7 @@ void PartialDownloadTracker::markPlaced(const std::string& remotePath,
     // count still held back goes too: written later, it would find no record and drop the row.
     partials_.erase(remotePath);
     heldBack_.erase(remotePath);
-    journal_->write([&](Journal& j) { writeRow(j, *record); });
-    journal_->commit();
+    journal_->write([&](Journal& j) { writeRow(j, *record); }, true);
 }
 
 std::vector<PartialDownload> PartialDownloadTracker::takePlacedByEarlierRun(
