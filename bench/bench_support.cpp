@@ -5,8 +5,14 @@
 #include <system_error>
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <spawn.h>
 #include <sys/wait.h>
+
+#include "engine/ftp_remote_service.h"
+#include "records/download_tracker.h"
+#include "transfer/curl_transfer_client.h"
+#include "transfer/ftp_service.h"
 
 extern char** environ;
 
@@ -74,6 +80,36 @@ long residentKiB() {
         if (line.starts_with("VmRSS:"))
             return std::stol(line.substr(6));
     return -1;
+}
+
+long liveHeapKiB() {
+    const struct mallinfo2 heap = ::mallinfo2();
+    return static_cast<long>((heap.uordblks + heap.hblkhd) / 1024);
+}
+
+Services::Services(MainLoop& loop, tarnel::Clock& clock, WorkerPool& workers,
+                   std::filesystem::path folder)
+    : dir(std::move(folder)),
+      runtime{loop, clock, workers},
+      settings{store, dir / "autostart.desktop"},
+      log{loop, clock, dir / "Tarnel.log"},
+      stats{store, clock},
+      journal(Journal::open(dir / "journal.db")),
+      history{loop, journal, dir / "history.json"},
+      notifications{settings, silent},
+      partials{journal, dir / "partials.json", &clock},
+      syncer{runtime} {
+    settings.setDiskSpaceWarningEnabled(false);
+}
+
+std::shared_ptr<SyncEngine> Services::engine(const ConnectionConfig& config) {
+    auto client = std::make_unique<CurlTransferClient>(config, dir / "known_hosts");
+    auto service = std::make_unique<FTPService>(config, log, std::move(client));
+    return std::make_shared<SyncEngine>(
+        config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
+        std::make_shared<DownloadTracker>(journal, store, config.id.toString()),
+        EngineServices{runtime, log, stats, history, settings, partials, notifications, sleep,
+                       silent, syncer});
 }
 
 }  // namespace tarnel::bench

@@ -16,21 +16,9 @@
 #include <unistd.h>
 
 #include "bench_support.h"
-#include "engine/ftp_remote_service.h"
 #include "engine/sync_engine.h"
-#include "platform/posix/group_file_syncer.h"
-#include "platform/sleep_monitor.h"
 #include "platform/testing/virtual_loop.h"
-#include "records/app_settings.h"
-#include "records/download_tracker.h"
-#include "records/history_service.h"
-#include "records/log_service.h"
-#include "records/notification_service.h"
-#include "records/partial_download_tracker.h"
-#include "records/stats_service.h"
 #include "servers/native_server.h"
-#include "transfer/curl_transfer_client.h"
-#include "transfer/ftp_service.h"
 
 namespace tarnel {
 namespace {
@@ -84,19 +72,7 @@ int copyMode(int count, bool withPeer) {
 
     WorkerPool workers;
     VirtualLoop loop{&workers};
-    Runtime runtime{loop, loop, workers};
-    MemorySettingsStore store;
-    AppSettings settings{store, scratch / "autostart.desktop"};
-    LogService log{loop, loop, scratch / "Tarnel.log"};
-    StatsService stats{store, loop};
-    auto journal = Journal::open(scratch / "journal.db");
-    HistoryService history{loop, journal, scratch / "history.json"};
-    Silent silent;
-    NotificationService notifications{settings, silent};
-    ManualSleepMonitor sleep;
-    PartialDownloadTracker partials{journal, scratch / "partials.json", &loop};
-    GroupFileSyncer syncer{runtime};
-    settings.setDiskSpaceWarningEnabled(false);
+    Services services{loop, loop, workers, scratch};
 
     config.name = "Copy";
     config.remotePath = below;
@@ -107,13 +83,7 @@ int copyMode(int count, bool withPeer) {
     config.excludedExtensions = "";
     config.pollInterval = 30;
     fs::create_directories(config.localPath);
-    auto client = std::make_unique<CurlTransferClient>(config, scratch / "known_hosts");
-    auto service = std::make_unique<FTPService>(config, log, std::move(client));
-    auto engine = std::make_shared<SyncEngine>(
-        config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
-        std::make_shared<DownloadTracker>(journal, store, config.id.toString()),
-        EngineServices{runtime, log, stats, history, settings, partials, notifications, sleep,
-                       silent, syncer});
+    auto engine = services.engine(config);
 
     std::vector<bench::Clock::time_point> placed;
     placed.reserve(count);
@@ -131,13 +101,17 @@ int copyMode(int count, bool withPeer) {
         const double first = rate(placed, 1, n / 10), last = rate(placed, n - n / 10 + 1, n);
         std::printf("  rate over the first / last tenth: %.0f / %.0f files/s (flatness %.2f)\n",
                     first, last, last / first);
+        std::printf("  rate over each tenth:");
+        for (std::size_t tenth = 0; tenth < 10; ++tenth)
+            std::printf(" %.0f", rate(placed, tenth * n / 10 + 1, (tenth + 1) * n / 10));
+        std::printf("\n");
     }
-    history.flush();
+    services.history.flush();
     const long afterRun = residentKiB();
     ::malloc_trim(0);  // what the heap keeps of freed memory, apart from what is still in use
     std::printf("  resident memory after the run: %.1f MiB (%.1f MiB once the heap gives back what "
-                "is free); journal %.1f MiB\n",
-                afterRun / 1024.0, residentKiB() / 1024.0,
+                "is free, %.1f MiB of heap in use); journal %.1f MiB\n",
+                afterRun / 1024.0, residentKiB() / 1024.0, liveHeapKiB() / 1024.0,
                 fs::file_size(scratch / "journal.db") / 1048576.0);
 
     const auto pollCpu = [&] {
@@ -154,9 +128,10 @@ int copyMode(int count, bool withPeer) {
                 "core; %zu fetched again\n",
                 count, first + second, first, second, (first + second) / 60 * 100,
                 placed.size() - n);
-    std::printf("  resident memory after the idle minute: %.1f MiB\n", residentKiB() / 1024.0);
+    std::printf("  resident memory after the idle minute: %.1f MiB (%.1f MiB of heap in use)\n",
+                residentKiB() / 1024.0, liveHeapKiB() / 1024.0);
 
-    log.flush();
+    services.log.flush();
     fs::remove_all(folder.parent_path());
     fs::remove_all(scratch);
     return 0;

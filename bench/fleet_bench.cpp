@@ -97,39 +97,21 @@ void fill(const fs::path& root, int count, std::size_t size) {
 struct Bench {
     // tmpfs by default: on this machine ext4 inode allocation slows with every create and
     // delete, which would measure the disk's history rather than the programs.
-    fs::path dir = "/dev/shm/tarnel-bench";
-    WorkerPool workers;
-    VirtualLoop loop{&workers};
-    Runtime runtime{loop, loop, workers};
-    MemorySettingsStore store;
-    AppSettings settings{store, dir / "autostart.desktop"};
-    LogService log{loop, loop, dir / "Tarnel.log"};
-    StatsService stats{store, loop};
-    HistoryService history{loop, dir / "history.json"};
-    Silent silent;
-    NotificationService notifications{settings, silent};
-    ManualSleepMonitor sleep;
-    PartialDownloadTracker partials{dir / "partials.json", &loop};
-    GroupFileSyncer syncer{runtime};
-
-    explicit Bench(fs::path place = "/dev/shm/tarnel-bench") : dir(std::move(place)) {
-        settings.setDiskSpaceWarningEnabled(false);
-    }
+    explicit Bench(fs::path place = "/dev/shm/tarnel-bench") : services{loop, loop, workers, place} {}
 
     // One poll that fetches everything in the server's folder; its wall-clock seconds.
     double pollOnce(const ConnectionConfig& config) {
-        auto client = std::make_unique<CurlTransferClient>(config, dir / "known_hosts");
-        auto service = std::make_unique<FTPService>(config, log, std::move(client));
-        auto engine = std::make_shared<SyncEngine>(
-            config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
-            std::make_unique<DownloadTracker>(partials.journal(), store, config.id.toString()),
-            EngineServices{runtime, log, stats, history, settings, partials, notifications, sleep,
-                           silent, syncer});
+        auto engine = services.engine(config);
         const auto start = Clock::now();
         spawn(loop, engine->pollOnce());
         loop.runUntilIdle();
         return secondsSince(start);
     }
+
+    WorkerPool workers;
+    VirtualLoop loop{&workers};
+    bench::Services services;
+    const fs::path& dir = services.dir;
 };
 
 ConnectionConfig engineConfig(ConnectionConfig c, const fs::path& into) {
@@ -352,16 +334,7 @@ int idleFleet(int connections, int seconds) {
     QtMainLoop loop;
     SystemClock clock;
     WorkerPool workers;
-    Runtime runtime{loop, clock, workers};
-    MemorySettingsStore store;
-    AppSettings settings{store, dir / "autostart.desktop"};
-    LogService log{loop, clock, dir / "Tarnel.log"};
-    StatsService stats{store, clock};
-    HistoryService history{loop, dir / "history.json"};
-    Silent silent;
-    NotificationService notifications{settings, silent};
-    ManualSleepMonitor sleep;
-    settings.setDiskSpaceWarningEnabled(false);
+    bench::Services s{loop, clock, workers, dir};
 
     std::vector<ConnectionConfig> list;
     for (int i = 0; i < connections; ++i) {
@@ -372,10 +345,12 @@ int idleFleet(int connections, int seconds) {
         list.push_back(c);
     }
     // The manager as the program builds it, engines and all.
-    store.setValue(ConnectionsManager::storageKey, encodeConnectionList(list));
-    auto manager = std::make_shared<ConnectionsManager>(
-        FleetServices{runtime, store, settings, log, stats, history, notifications, sleep, silent,
-                      dir / "partials.json", dir / "known_hosts"});
+    s.store.setValue(ConnectionsManager::storageKey, encodeConnectionList(list));
+    FleetServices fleet{s.runtime, s.store,  s.settings, s.log,    s.stats,
+                        s.history, s.notifications, s.sleep, s.silent,  dir / "partials.json",
+                        dir / "known_hosts"};
+    fleet.journal = s.journal;
+    auto manager = std::make_shared<ConnectionsManager>(fleet);
     manager->startAll();
     const double cpuBefore = cpuSeconds();
     QTimer::singleShot(seconds * 1000, &app, [] { QCoreApplication::quit(); });
@@ -386,7 +361,7 @@ int idleFleet(int connections, int seconds) {
     std::printf("  CPU %.2f s per minute (%.1f%% of one core), resident memory %.1f MiB\n",
                 cpu * 60 / seconds, cpu / seconds * 100, residentKiB() / 1024.0);
     manager->stopAll();
-    log.flush();
+    s.log.flush();
     std::_Exit(0);  // transfers in flight are not waited for, as in the program
 }
 

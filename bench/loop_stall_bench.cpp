@@ -17,23 +17,11 @@
 #include <QTimer>
 #include <zlib.h>
 
-#include "engine/ftp_remote_service.h"
+#include "bench_support.h"
 #include "engine/sync_engine.h"
 #include "platform/qt/qt_main_loop.h"
-#include "platform/settings_store.h"
-#include "platform/posix/group_file_syncer.h"
-#include "platform/sleep_monitor.h"
-#include "platform/sound_player.h"
-#include "records/app_settings.h"
-#include "records/download_tracker.h"
-#include "records/history_service.h"
 #include "records/log_service.h"
-#include "records/notification_service.h"
-#include "records/partial_download_tracker.h"
-#include "records/stats_service.h"
 #include "servers/test_server.h"
-#include "transfer/curl_transfer_client.h"
-#include "transfer/ftp_service.h"
 
 namespace tarnel {
 namespace {
@@ -44,12 +32,6 @@ using testing::ServerProtocol;
 using testing::TestServer;
 
 constexpr Duration tickInterval{1};
-
-class Silent final : public Notifier, public SoundPlayer {
-public:
-    void post(const std::string&, const std::string&, const std::string&, bool) override {}
-    void play(const std::string&) override {}
-};
 
 // Writes `mib` MiB of random bytes as one gzip member of stored blocks.
 void writeArchive(const fs::path& file, std::size_t mib) {
@@ -159,18 +141,8 @@ int run(std::size_t mib, const fs::path& dir) {
     QtMainLoop loop;
     SystemClock clock;
     WorkerPool workers;
-    Runtime runtime{loop, clock, workers};
-    MemorySettingsStore store;
-    AppSettings settings{store, dir / "autostart.desktop"};
-    LogService log{loop, clock, dir / "Tarnel.log"};
-    StatsService stats{store, clock};
-    HistoryService history{loop, dir / "history.json"};
-    Silent silent;
-    NotificationService notifications{settings, silent};
-    ManualSleepMonitor sleep;
-    PartialDownloadTracker partials{dir / "partials.json"};
-    GroupFileSyncer syncer{runtime};
-    settings.setDiskSpaceWarningEnabled(false);
+    bench::Services services{loop, clock, workers, dir};
+    const LogService& log = services.log;
 
     ConnectionConfig config = server.connectionConfig();
     config.name = "Stall";
@@ -179,13 +151,7 @@ int run(std::size_t mib, const fs::path& dir) {
     config.deleteAfterDownload = false;
     config.checksumVerification = true;
     config.autoDecompress = true;
-    auto client = std::make_unique<CurlTransferClient>(config, dir / "known_hosts");
-    auto service = std::make_unique<FTPService>(config, log, std::move(client));
-    auto engine = std::make_shared<SyncEngine>(
-        config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
-        std::make_unique<DownloadTracker>(partials.journal(), store, config.id.toString()),
-        EngineServices{runtime, log, stats, history, settings, partials, notifications, sleep,
-                       silent, syncer});
+    auto engine = services.engine(config);
 
     auto start = Steady::now();
     auto busy = std::make_unique<StallMeter>(loop, log);
@@ -210,7 +176,7 @@ int run(std::size_t mib, const fs::path& dir) {
     std::printf("the loop's 1 ms timer, busy (list, download, MD5, inflate, place) and idle:\n");
     busy->print("busy", seconds);
     idle->print("idle", std::chrono::duration<double>(Steady::now() - start).count());
-    log.flush();
+    services.log.flush();
     return 0;
 }
 

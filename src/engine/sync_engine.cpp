@@ -330,6 +330,7 @@ std::vector<TrackedFile> SyncEngine::updateStability(const std::vector<FTPFileEn
         trackedFiles_.emplace(key, TrackedFile{e.name, e.size, 0, now, e.relativePath});
         log("New: " + key + " (" + std::to_string(e.size) + " bytes)");
     }
+    downloadTracker_->listingChecked();
     std::erase_if(trackedFiles_, [&](const auto& kv) { return !seen.contains(kv.first); });
 
     publishTrackedFiles();

@@ -69,19 +69,25 @@ public:
     Journal& operator=(const Journal&) = delete;
 
     // Runs `work(journal)` now, inside the open transaction (begun if none), and has the
-    // transaction committed by the writer thread. Storage errors are swallowed: the stores
-    // never report a failure to write. Returns false after one.
+    // transaction committed by the writer thread; with `commitNow`, commits it before returning
+    // (a record that a restart must find) and leaves the writer asleep. Storage errors are
+    // swallowed: the stores never report a failure to write. Returns false after one.
     template <typename Work>
-    bool write(Work&& work) {
+    bool write(Work&& work, bool commitNow = false) {
         Use use(*this);
         try {
             beginLocked();
             work(*this);
-            scheduleCommitLocked();
-            return true;
         } catch (const JournalError&) {
             return false;
         }
+        if (!commitNow) {
+            scheduleCommitLocked();
+            return true;
+        }
+        resetUsedLocked();
+        commitLocked();
+        return true;
     }
     // Runs `work(journal)` on the writer thread, off the caller's path, then commits.
     void writeLater(std::function<void(Journal&)> work);

@@ -153,9 +153,7 @@ void PartialDownloadTracker::writeLocked(const std::vector<Key>& keys, bool comm
             else
                 deleteRow(j, key.first, key.second);
         }
-    });
-    if (commitNow)
-        journal_->commit();
+    }, commitNow);
 }
 
 void PartialDownloadTracker::writeHeldBackLocked() {
@@ -227,10 +225,11 @@ void PartialDownloadTracker::markPlaced(const std::string& connectionId,
         return;
     record->placedPath = placedPath;
     // Only a restart reads it from here on: the row stays until remove(), the memory goes now,
-    // so that a batch of many thousand files kept on the server holds none of them.
+    // so that a batch of many thousand files kept on the server holds none of them. A byte
+    // count still held back goes too: written later, it would find no record and drop the row.
     partials_.erase(key);
-    journal_->write([&](Journal& j) { writeRow(j, *record); });
-    journal_->commit();
+    heldBack_.erase(key);
+    journal_->write([&](Journal& j) { writeRow(j, *record); }, true);
 }
 
 std::vector<PartialDownload> PartialDownloadTracker::takePlacedByEarlierRun(

@@ -99,6 +99,16 @@ TEST_F(PartialDownloadTrackerTest, ProgressIsWrittenAtAPacedRate) {
         tracker.updateProgress(id, "a.zip", 700);
     }
     EXPECT_EQ(bytesOnDisk(), 700);  // what pacing held back is written at the end
+
+    // A byte count still held back when the file is placed must not take the placed record with
+    // it: a restart books the file from that record instead of fetching it again.
+    {
+        PartialDownloadTracker tracker(file, &clock);
+        tracker.updateProgress(id, "a.zip", 1000);
+        tracker.markPlaced(id, "a.zip", (dir / "a.zip").string());
+        tracker.flush();
+    }
+    EXPECT_EQ(PartialDownloadTracker(file, &clock).takePlacedByEarlierRun("C0FFEE").size(), 1u);
 }
 
 TEST_F(PartialDownloadTrackerTest, OrphansAndDiscard) {
