@@ -3,9 +3,10 @@
 //                from the first poll to the last file placed; beside lftp mirror -P4
 //                --Remove-source-files and rclone move --transfers 4. On the Python test
 //                servers, or (native-small-files) on a server as Debian ships it, over
-//                several rounds with the median of each contender; `only` names the one
-//                contender to run (tarnel, lftp or rclone; "all" for every one), for profiling
-//                it alone; `place` is the local folder the files land in (/dev/shm/... by
+//                several rounds with the median of each contender; the engine runs twice,
+//                with checksum verification off and on; `only` names the contender to run
+//                (tarnel, for both engine runs, lftp or rclone; "all" for every one), for
+//                profiling it alone; `place` is the local folder the files land in (/dev/shm/... by
 //                default), to measure on a disk that must write them.
 //   large-file   one 1 GiB file through the engine, beside the curl tool.
 //   idle-fleet   50 connections polling an empty folder every 2 s: CPU per minute, memory.
@@ -217,16 +218,22 @@ int smallFiles(const Drop& drop, int count, int rounds, const fs::path& scratch,
     const std::string lftpFolder = sftp                     ? drop.engineRemote
                                    : drop.belowLogin.empty() ? "."
                                                              : drop.belowLogin;
+    // With checksums, each file is also digested as it is written and compared with the
+    // server's own checksum where the server offers one.
+    const auto engine = [&](bool checksums) {
+        return [&, checksums](const fs::path& target) {
+            Bench bench{scratch / "engine"};
+            auto config = engineConfig(drop.server, target);
+            config.remotePath = drop.engineRemote;
+            config.checksumVerification = checksums;
+            const double cpu = cpuSeconds();
+            const double t = bench.pollOnce(config);
+            return Outcome{t, countFiles(target), cpuSeconds() - cpu};
+        };
+    };
     std::vector<Contender> contenders{
-        {"tarnel engine",
-         [&](const fs::path& target) {
-             Bench bench{scratch / "engine"};
-             auto config = engineConfig(drop.server, target);
-             config.remotePath = drop.engineRemote;
-             const double cpu = cpuSeconds();
-             const double t = bench.pollOnce(config);
-             return Outcome{t, countFiles(target), cpuSeconds() - cpu};
-         }},
+        {"tarnel engine", engine(false)},
+        {"tarnel engine, checksums verified", engine(true)},
         {"lftp mirror -P4 --Remove-source-files",
          [&](const fs::path& target) {
              return runPeer({"lftp", "-c",

@@ -183,6 +183,7 @@ struct CurlTransferClient::Operation {
     std::function<void(Operation&, CURLcode)> finish;
     Completion done;  // told the result once
     std::optional<EasyHandlePool::Lease> lease;
+    long reply = 0;       // the server's last reply code
     std::string text;     // what a listing receives
     std::string replies;  // the server's replies, where the operation asks for them
     std::unique_ptr<FILE, int (*)(FILE*)> file{nullptr, std::fclose};
@@ -255,6 +256,7 @@ void CurlTransferClient::end(const std::shared_ptr<Operation>& op, CURLcode code
     const long opened = countConnections(easy);
     long reply = 0;
     curl_easy_getinfo(easy, CURLINFO_RESPONSE_CODE, &reply);
+    op->reply = reply;
     if (code != CURLE_OK) {
         // One refused CWD or a cut connection can leave the session where every later
         // operation fails; a fresh login costs little beside that.
@@ -349,7 +351,7 @@ void CurlTransferClient::run(const std::shared_ptr<Operation>& op) {
     if (*error) std::rethrow_exception(*error);
 }
 
-std::string CurlTransferClient::readText(const std::string& url, Reading reading) {
+std::optional<std::string> CurlTransferClient::readText(const std::string& url, Reading reading) {
     auto op = std::make_shared<Operation>(url, [reading](Operation& o, CURL* h) {
         if (reading == Reading::names) {
             curl_easy_setopt(h, CURLOPT_DIRLISTONLY, 1L);
@@ -364,23 +366,30 @@ std::string CurlTransferClient::readText(const std::string& url, Reading reading
         curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, appendToData);
         curl_easy_setopt(h, CURLOPT_WRITEDATA, &o.text);
     });
-    run(op);
+    try {
+        run(op);
+    } catch (const FTPError&) {
+        // 500 to 504: the server knows no such command, or not with these arguments.
+        if (reading == Reading::machineListing && op->reply >= 500 && op->reply <= 504)
+            return std::nullopt;
+        throw;
+    }
     return isValidUtf8(op->text) ? std::move(op->text) : std::string{};
 }
 
 std::string CurlTransferClient::fetchHeaders(const std::string& name) {
-    return readText(remoteFileURL(config_, config_.remotePath, name), Reading::headers);
+    return *readText(remoteFileURL(config_, config_.remotePath, name), Reading::headers);
 }
 
 std::string CurlTransferClient::listDirectory(const std::string& url) {
-    return readText(url, Reading::listing);
+    return *readText(url, Reading::listing);
 }
 
 std::string CurlTransferClient::listNames(const std::string& url) {
-    return readText(url, Reading::names);
+    return *readText(url, Reading::names);
 }
 
-std::string CurlTransferClient::listMachineReadable(const std::string& url) {
+std::optional<std::string> CurlTransferClient::listMachineReadable(const std::string& url) {
     return readText(url, Reading::machineListing);
 }
 

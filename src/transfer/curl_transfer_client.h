@@ -68,8 +68,9 @@ public:
     std::string listDirectory(const std::string& url);
     // Bare names of the folder at `url`; "" if it is not UTF-8.
     std::string listNames(const std::string& url);
-    // MLSD of the folder at `url`; "" if it is not UTF-8. FTP only.
-    std::string listMachineReadable(const std::string& url);
+    // MLSD of the folder at `url`; "" if it is not UTF-8; nullopt if the server refuses the
+    // command itself. FTP only.
+    std::optional<std::string> listMachineReadable(const std::string& url);
     // The replies of a session that sent FEAT, in the login folder. FTP only.
     std::string readFeatures();
     // The same, told to `done`; `replies` holds them by then.
@@ -151,7 +152,8 @@ private:
     // Tells the caller of `op` its result, once; nothing leaves here.
     static void tell(Operation& op, std::exception_ptr error) noexcept;
     enum class Reading { listing, names, machineListing, headers };
-    std::string readText(const std::string& url, Reading reading);
+    // nullopt only for a machine listing the server refuses.
+    std::optional<std::string> readText(const std::string& url, Reading reading);
     // Sends FEAT; its replies go to `replies` once the operation has ended.
     std::shared_ptr<Operation> featuresOperation(std::shared_ptr<std::string> replies);
     // Removes `item` of `folder` (a path from the server root) with the FTP command `ftpVerb`

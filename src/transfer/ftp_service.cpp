@@ -37,14 +37,6 @@ bool isFTPFamily(TransferProtocol protocol) {
     return protocol == TransferProtocol::ftp || protocol == TransferProtocol::ftps;
 }
 
-// The server answered MLSD itself with a refusal: the folder was entered, so the command is at
-// fault, not the path or the login.
-bool refusesCommand(const FTPError& error) {
-    return error.kind() == FTPError::Kind::curlExitCode &&
-           (error.curlCode() == CURLE_FTP_COULDNT_RETR_FILE ||
-            error.curlCode() == CURLE_FTP_WEIRD_SERVER_REPLY);
-}
-
 // What the connection test says the server offers.
 std::string featuresText(const ServerFeatures& features, TransferProtocol protocol) {
     const auto checksum = offeredChecksum(features);
@@ -118,15 +110,12 @@ void FTPService::fallBackToLIST(const std::string& why) {
 std::optional<std::vector<FTPFileEntry>> FTPService::machineListing(const std::string& url,
                                                                     bool includeDirectories) {
     if (listsWithLIST_ || !features().machineListings) return std::nullopt;
-    std::string text;
-    try {
-        text = client_->listMachineReadable(url);
-    } catch (const FTPError& error) {
-        if (!refusesCommand(error)) throw;
+    const auto text = client_->listMachineReadable(url);
+    if (!text) {
         fallBackToLIST("refused by the server");
         return std::nullopt;
     }
-    auto entries = parseMachineListing(text, includeDirectories);
+    auto entries = parseMachineListing(*text, includeDirectories);
     if (!entries) fallBackToLIST("gave an answer that does not read as a listing");
     return entries;
 }
