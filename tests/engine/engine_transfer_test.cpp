@@ -73,6 +73,7 @@ TEST_P(EngineTransferTest, AGrowingFileIsFetchedOnceSettledIntoItsDatedRenamedPl
     config.organizeByConnection = true;
     config.organizeByDate = true;
     config.renamePattern = "{counter}_{original}";
+    config.checksumVerification = true;
     loop.setLocalTime(2024, 3, 7, 14, 5);
     const std::string full = pattern(300'000);
     serve("photo.raw", full.substr(0, 100'000));
@@ -102,6 +103,14 @@ TEST_P(EngineTransferTest, AGrowingFileIsFetchedOnceSettledIntoItsDatedRenamedPl
     ASSERT_EQ(history.entries()().size(), 1u);
     EXPECT_EQ(history.entries()()[0].finalFilename, "001_photo.raw");
     EXPECT_FALSE(partials.partial("photo.raw").has_value());
+    // The FTP test server vouches with SHA-256; over SFTP there is no server checksum.
+    if (GetParam() == ServerProtocol::sftp) {
+        EXPECT_TRUE(hasLogLine(
+            "INFO [Test] The server offers no checksum; files are verified by their size"));
+        EXPECT_TRUE(hasLogLine("INFO [Test] MD5: photo.raw = "));
+    } else {
+        EXPECT_TRUE(hasLogLine("INFO [Test] SHA-256 matches the server: photo.raw = "));
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Protocols, EngineTransferTest,
