@@ -395,7 +395,7 @@ std::optional<std::string> CurlTransferClient::listMachineReadable(const std::st
 
 std::shared_ptr<CurlTransferClient::Operation> CurlTransferClient::featuresOperation(
     std::shared_ptr<std::string> replies) {
-    // In the login folder, where the listings go next on the same session.
+    // In the watched folder, where the listings go next on the same session.
     auto op = std::make_shared<Operation>(
         remoteFolderURL(config_, config_.remotePath), [](Operation& o, CURL* h) {
             curl_easy_setopt(h, CURLOPT_QUOTE, o.commands.get());
