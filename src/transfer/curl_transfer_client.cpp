@@ -435,7 +435,9 @@ void CurlTransferClient::startDownload(const std::string& url, const std::filesy
                                        std::shared_ptr<DownloadChecksum> answer,
                                        Completion done) {
     const bool ftp = isFTPFamily(config_.transferProtocol);
-    auto op = std::make_shared<Operation>(url, [ftp, resumeFrom](Operation& o, CURL* h) {
+    const long checksumReply = seconds(timeouts_.checksumReply);
+    auto op = std::make_shared<Operation>(url, [ftp, resumeFrom, checksumReply](Operation& o,
+                                                                                CURL* h) {
         if (resumeFrom > 0) {
             curl_easy_setopt(h, CURLOPT_RESUME_FROM_LARGE, static_cast<curl_off_t>(resumeFrom));
         } else if (ftp) {
@@ -450,6 +452,7 @@ void CurlTransferClient::startDownload(const std::string& url, const std::filesy
             // Asked in the file's folder once its bytes are all sent; the replies carry the
             // server's digest.
             curl_easy_setopt(h, CURLOPT_POSTQUOTE, o.commands.get());
+            curl_easy_setopt(h, CURLOPT_SERVER_RESPONSE_TIMEOUT, checksumReply);
             curl_easy_setopt(h, CURLOPT_HEADERFUNCTION, appendToData);
             curl_easy_setopt(h, CURLOPT_HEADERDATA, &o.replies);
         }

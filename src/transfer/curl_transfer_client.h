@@ -37,6 +37,10 @@ struct TransferTimeouts {
     std::chrono::seconds connect{10};
     std::chrono::seconds operation{300};
     std::chrono::seconds stall{60};
+    // For every reply of a download that asks the server for its checksum: the server reads the
+    // whole file before it answers, half an hour for some hundred GB, where libcurl's own limit
+    // of two minutes would fail every attempt at a large file.
+    std::chrono::seconds checksumReply{1800};
 };
 
 // The one place that talks libcurl. Turns a connection record into libcurl options and offers

@@ -101,7 +101,13 @@ def _handler(base, faults, root):
                 return None
             if faults.corrupt_checksums():
                 digest.update(b"corrupt")
-            self.respond("250 " + digest.hexdigest().upper())
+            answer = "250 " + digest.hexdigest().upper()
+            pause = faults.current().get("checksum_reply_pause_seconds")
+            if pause:
+                # As a server reading a large file would, without holding up other sessions.
+                self.ioloop.call_later(pause, self.respond, answer)
+            else:
+                self.respond(answer)
             return path
 
         def ftp_MLSD(self, path):

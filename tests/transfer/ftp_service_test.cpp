@@ -115,6 +115,30 @@ TEST_F(FtpServiceTest, machineListingsWhereOfferedAndLISTAfterARefusal) {
                             "[Test FTP] MLSD refused by the server; listing with LIST from now on"}));
 }
 
+// The server reads the whole file before it answers with its checksum: that reply has a limit
+// of its own, beyond libcurl's two minutes.
+TEST_F(FtpServiceTest, aChecksumReplyIsAwaitedWithinItsOwnLimit) {
+    write(root / "x.bin", "12345");
+    auto config = server->connectionConfig();
+    config.checksumVerification = true;
+    server->delayChecksumReplies(2);
+    const auto download = [&](std::chrono::seconds limit) {
+        TransferTimeouts timeouts;
+        timeouts.checksumReply = limit;
+        FTPService service(config, logService,
+                           std::make_unique<CurlTransferClient>(config, dir / "known_hosts",
+                                                                timeouts));
+        auto verdict = std::make_shared<ChecksumVerdict>();
+        waitFor([&](Completion done) {
+            service.startDownloadFile("x.bin", dir / "local" / "x.bin", 0, {}, std::nullopt,
+                                      verdict, done);
+        });
+        return verdict->algorithm;
+    };
+    EXPECT_EQ(download(std::chrono::seconds(10)), DigestAlgorithm::sha256);
+    EXPECT_THROW(download(std::chrono::seconds(1)), FTPError);
+}
+
 // The folder's name holds what a URL would read as a fragment: it is addressed as itself.
 TEST_P(ServiceTest, downloadsByNameOrByTheGivenURL) {
     write(root / "in #1" / "a b.txt", "hello");
