@@ -40,8 +40,9 @@ bool isFTPFamily(TransferProtocol protocol) {
 // What the connection test says the server offers.
 std::string featuresText(const ServerFeatures& features, TransferProtocol protocol) {
     const auto checksum = offeredChecksum(features);
-    std::string text = checksum ? localizedFormat("%@ checksums", {std::string(digestName(*checksum))})
-                                : localized("No checksum: files are verified by size");
+    std::string text =
+        checksum ? localizedFormat("%@ checksums", {std::string(digestName(*checksum))})
+                 : localized("No checksum: files are verified by size");
     if (!isFTPFamily(protocol)) return text;
     return text + ", " +
            (features.machineListings ? localized("MLSD listings") : localized("LIST listings"));

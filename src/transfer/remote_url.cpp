@@ -29,7 +29,8 @@ std::string remoteItemName(std::string_view url) {
         if (segment[i] == '%' && i + 2 < segment.size() &&
             std::isxdigit(static_cast<unsigned char>(segment[i + 1])) != 0 &&
             std::isxdigit(static_cast<unsigned char>(segment[i + 2])) != 0) {
-            name += static_cast<char>(std::stoi(std::string(segment.substr(i + 1, 2)), nullptr, 16));
+            const std::string hex(segment.substr(i + 1, 2));
+            name += static_cast<char>(std::stoi(hex, nullptr, 16));
             i += 2;
         } else {
             name += segment[i];

@@ -111,8 +111,9 @@ TEST_F(FtpServiceTest, machineListingsWhereOfferedAndLISTAfterARefusal) {
     // LIST cuts the name at its arrow, as it always has.
     EXPECT_EQ(refused.listFiles(), (std::vector<FTPFileEntry>{{"a", 5, false, ""}}));
     EXPECT_EQ(refused.listFiles("/").size(), 1u);
-    EXPECT_EQ(logged(), (std::vector<std::string>{
-                            "[Test FTP] MLSD refused by the server; listing with LIST from now on"}));
+    const std::string fallback =
+        "[Test FTP] MLSD refused by the server; listing with LIST from now on";
+    EXPECT_EQ(logged(), (std::vector<std::string>{fallback}));
 }
 
 // The server reads the whole file before it answers with its checksum: that reply has a limit
