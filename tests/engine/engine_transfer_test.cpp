@@ -276,6 +276,7 @@ TEST_F(EngineTransferFtpTest, SameNamedFilesFromTwoFoldersBothArriveWhole) {
     config.requiredStableChecks = 0;
     config.exploreSubdirectories = true;
     config.subdirectoryOrganization = SubdirectoryOrganization::flatAll;
+    config.checksumVerification = true;  // each asked of the server in its own folder
     const std::string first = pattern(400'000), second = std::string(300'000, 'b');
     serve("a/x.jpg", first);
     serve("b/x.jpg", second);
@@ -289,6 +290,7 @@ TEST_F(EngineTransferFtpTest, SameNamedFilesFromTwoFoldersBothArriveWhole) {
                                   readFile(dir / "inbox" / "x (1).jpg")};
     EXPECT_EQ(arrived, (std::set<std::string>{first, second}));
     EXPECT_TRUE(filesBelow(ftp->root()).empty());
+    EXPECT_EQ(countLogLines("INFO [Test] SHA-256 matches the server: "), 2);
 }
 
 TEST_F(EngineTransferFtpTest, AListingThatFailsThreeTimesShowsErrorAndRecovers) {
