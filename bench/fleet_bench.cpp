@@ -3,11 +3,13 @@
 //                from the first poll to the last file placed; beside lftp mirror -P4
 //                --Remove-source-files and rclone move --transfers 4. On the Python test
 //                servers, or (native-small-files) on a server as Debian ships it, over
-//                several rounds with the median of each contender; `only` names the one
-//                contender to run (tarnel, lftp or rclone; "all" for every one), for profiling
-//                it alone; `place` is the local folder the files land in (/dev/shm/... by
+//                several rounds with the median of each contender; the engine runs twice,
+//                with checksum verification off and on; `only` names the contender to run
+//                (tarnel, for both engine runs, lftp or rclone; "all" for every one), for
+//                profiling it alone; `place` is the local folder the files land in (/dev/shm/... by
 //                default), to measure on a disk that must write them.
-//   large-file   one 1 GiB file through the engine, beside the curl tool.
+//   large-file   one 1 GiB file through the engine, checksum verification off and on, beside
+//                the curl tool.
 //   idle-fleet   50 connections polling an empty folder every 2 s: CPU per minute, memory.
 // Usage: fleet_bench small-files [ftp|sftp] [count] [folder]
 //        | native-small-files vsftpd|proftpd|pure_ftpd|proftpd_sftp|openssh [count] [rounds]
@@ -199,16 +201,22 @@ int smallFiles(const Drop& drop, int count, int rounds, const fs::path& scratch,
     const std::string lftpFolder = sftp                     ? drop.engineRemote
                                    : drop.belowLogin.empty() ? "."
                                                              : drop.belowLogin;
+    // With checksums, each file is also digested as it is written and compared with the
+    // server's own checksum where the server offers one.
+    const auto engine = [&](bool checksums) {
+        return [&, checksums](const fs::path& target) {
+            Bench bench{scratch / "engine"};
+            auto config = engineConfig(drop.server, target);
+            config.remotePath = drop.engineRemote;
+            config.checksumVerification = checksums;
+            const double cpu = cpuSeconds();
+            const double t = bench.pollOnce(config);
+            return Outcome{t, countFiles(target), cpuSeconds() - cpu};
+        };
+    };
     std::vector<Contender> contenders{
-        {"tarnel engine",
-         [&](const fs::path& target) {
-             Bench bench{scratch / "engine"};
-             auto config = engineConfig(drop.server, target);
-             config.remotePath = drop.engineRemote;
-             const double cpu = cpuSeconds();
-             const double t = bench.pollOnce(config);
-             return Outcome{t, countFiles(target), cpuSeconds() - cpu};
-         }},
+        {"tarnel engine", engine(false)},
+        {"tarnel engine, checksums verified", engine(true)},
         {"lftp mirror -P4 --Remove-source-files",
          [&](const fs::path& target) {
              return runPeer({"lftp", "-c",
@@ -301,8 +309,8 @@ int largeFile(ServerProtocol protocol, std::size_t mib) {
     const std::uint64_t bytes = std::uint64_t(mib) << 20;
     std::printf("one file of %zu MiB over %s\n", mib,
                 protocol == ServerProtocol::sftp ? "SFTP" : "FTP");
-    fill(server.root(), 1, 1);  // a name, then grown to size without holding it in memory
-    {
+    // Written without holding it in memory; again for each run that moves it off the server.
+    const auto serve = [&] {
         std::ofstream out(server.root() / "file-0.bin", std::ios::binary | std::ios::trunc);
         std::string block(1 << 20, '\0');
         std::mt19937 random(7);
@@ -310,7 +318,8 @@ int largeFile(ServerProtocol protocol, std::size_t mib) {
             b = static_cast<char>(random());
         for (std::size_t i = 0; i < mib; ++i)
             out << block;
-    }
+    };
+    serve();
     auto start = Clock::now();
     double cpu = cpuSeconds(RUSAGE_CHILDREN);
     run({"curl", "-s", "-k", "-o", (bench.dir / "curl.bin").string(),
@@ -318,10 +327,19 @@ int largeFile(ServerProtocol protocol, std::size_t mib) {
     report("curl", secondsSince(start), 1, bytes, cpuSeconds(RUSAGE_CHILDREN) - cpu);
     fs::remove(bench.dir / "curl.bin");
 
-    cpu = cpuSeconds();
-    double t = bench.pollOnce(engineConfig(server.connectionConfig(), bench.dir / "tarnel"));
-    report("tarnel engine (list, fetch, verify, move, delete)", t, countFiles(bench.dir / "tarnel"),
-           bytes, cpuSeconds() - cpu);
+    // With checksums the engine digests the bytes as they are written and, over FTP, the
+    // server computes its own SHA-256 of the file after the transfer.
+    for (const bool checksums : {false, true}) {
+        if (checksums) serve();
+        auto config = engineConfig(server.connectionConfig(), bench.dir / "tarnel");
+        config.checksumVerification = checksums;
+        cpu = cpuSeconds();
+        const double t = bench.pollOnce(config);
+        report(checksums ? "tarnel engine, checksum verified"
+                         : "tarnel engine (list, fetch, verify, move, delete)",
+               t, countFiles(bench.dir / "tarnel"), bytes, cpuSeconds() - cpu);
+        fs::remove_all(bench.dir / "tarnel");
+    }
     fs::remove_all(bench.dir);
     return 0;
 }

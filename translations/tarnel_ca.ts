@@ -56,6 +56,14 @@
             <translation> esperant que s'estabilitzin</translation>
         </message>
         <message>
+            <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
+            <translation>La suma de verificació %@ no coincideix: el servidor indica %@, la baixada dona %@. El fitxer no s'ha col·locat i es queda al servidor; es tornarà a baixar.</translation>
+        </message>
+        <message>
+            <source>%@ checksums</source>
+            <translation>Sumes de verificació %@</translation>
+        </message>
+        <message>
             <source>%lld files found</source>
             <translation>S'han trobat %lld fitxers</translation>
         </message>
@@ -318,6 +326,10 @@
         <message>
             <source>Changes applied</source>
             <translation>Canvis aplicats</translation>
+        </message>
+        <message>
+            <source>Checksum and listing</source>
+            <translation>Suma de verificació i llistat</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -640,6 +652,10 @@
             <translation>Les baixades interrompudes es reprenen automàticament. Poseu 0 per desactivar-ho.</translation>
         </message>
         <message>
+            <source>LIST listings</source>
+            <translation>Llistats LIST</translation>
+        </message>
+        <message>
             <source>Language</source>
             <translation>Llengua</translation>
         </message>
@@ -670,6 +686,10 @@
         <message>
             <source>Low disk</source>
             <translation>Poc disc</translation>
+        </message>
+        <message>
+            <source>MLSD listings</source>
+            <translation>Llistats MLSD</translation>
         </message>
         <message>
             <source>Made by the Tarnel developers.</source>
@@ -750,6 +770,10 @@
         <message>
             <source>New Connection</source>
             <translation>Connexió nova</translation>
+        </message>
+        <message>
+            <source>No checksum: files are verified by size</source>
+            <translation>Sense suma de verificació: els fitxers es verifiquen per la mida</translation>
         </message>
         <message>
             <source>No connections</source>

@@ -56,6 +56,14 @@
             <translation> warten auf Stabilität</translation>
         </message>
         <message>
+            <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
+            <translation>%@-Prüfsumme stimmt nicht überein: Der Server meldet %@, der Download ergibt %@. Die Datei wurde nicht abgelegt und bleibt auf dem Server; sie wird erneut heruntergeladen.</translation>
+        </message>
+        <message>
+            <source>%@ checksums</source>
+            <translation>%@-Prüfsummen</translation>
+        </message>
+        <message>
             <source>%lld files found</source>
             <translation>%lld Dateien gefunden</translation>
         </message>
@@ -318,6 +326,10 @@
         <message>
             <source>Changes applied</source>
             <translation>Änderungen übernommen</translation>
+        </message>
+        <message>
+            <source>Checksum and listing</source>
+            <translation>Prüfsumme und Auflistung</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -640,6 +652,10 @@
             <translation>Unterbrochene Downloads werden automatisch fortgesetzt. 0 schaltet dies ab.</translation>
         </message>
         <message>
+            <source>LIST listings</source>
+            <translation>Auflistung per LIST</translation>
+        </message>
+        <message>
             <source>Language</source>
             <translation>Sprache</translation>
         </message>
@@ -670,6 +686,10 @@
         <message>
             <source>Low disk</source>
             <translation>Speicher knapp</translation>
+        </message>
+        <message>
+            <source>MLSD listings</source>
+            <translation>Auflistung per MLSD</translation>
         </message>
         <message>
             <source>Made by the Tarnel developers.</source>
@@ -750,6 +770,10 @@
         <message>
             <source>New Connection</source>
             <translation>Neue Verbindung</translation>
+        </message>
+        <message>
+            <source>No checksum: files are verified by size</source>
+            <translation>Keine Prüfsumme: Dateien werden anhand ihrer Größe geprüft</translation>
         </message>
         <message>
             <source>No connections</source>

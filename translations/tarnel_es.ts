@@ -56,6 +56,14 @@
             <translation> esperando a estabilizarse</translation>
         </message>
         <message>
+            <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
+            <translation>La suma de comprobación %@ no coincide: el servidor indica %@, la descarga da %@. El archivo no se ha colocado y permanece en el servidor; se volverá a descargar.</translation>
+        </message>
+        <message>
+            <source>%@ checksums</source>
+            <translation>Sumas de comprobación %@</translation>
+        </message>
+        <message>
             <source>%lld files found</source>
             <translation>%lld archivos encontrados</translation>
         </message>
@@ -318,6 +326,10 @@
         <message>
             <source>Changes applied</source>
             <translation>Cambios aplicados</translation>
+        </message>
+        <message>
+            <source>Checksum and listing</source>
+            <translation>Suma de comprobación y listado</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -640,6 +652,10 @@
             <translation>Las descargas interrumpidas se reanudan automáticamente. Ponga 0 para desactivarlo.</translation>
         </message>
         <message>
+            <source>LIST listings</source>
+            <translation>Listados LIST</translation>
+        </message>
+        <message>
             <source>Language</source>
             <translation>Idioma</translation>
         </message>
@@ -670,6 +686,10 @@
         <message>
             <source>Low disk</source>
             <translation>Poco espacio</translation>
+        </message>
+        <message>
+            <source>MLSD listings</source>
+            <translation>Listados MLSD</translation>
         </message>
         <message>
             <source>Made by the Tarnel developers.</source>
@@ -750,6 +770,10 @@
         <message>
             <source>New Connection</source>
             <translation>Nueva conexión</translation>
+        </message>
+        <message>
+            <source>No checksum: files are verified by size</source>
+            <translation>Sin suma de comprobación: los archivos se verifican por su tamaño</translation>
         </message>
         <message>
             <source>No connections</source>

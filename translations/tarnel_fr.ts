@@ -56,6 +56,14 @@
             <translation> en attente de stabilité</translation>
         </message>
         <message>
+            <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
+            <translation>Somme de contrôle %@ différente : le serveur indique %@, le téléchargement donne %@. Le fichier n'a pas été placé et reste sur le serveur ; il sera téléchargé à nouveau.</translation>
+        </message>
+        <message>
+            <source>%@ checksums</source>
+            <translation>Sommes de contrôle %@</translation>
+        </message>
+        <message>
             <source>%lld files found</source>
             <translation>%lld fichiers trouvés</translation>
         </message>
@@ -318,6 +326,10 @@
         <message>
             <source>Changes applied</source>
             <translation>Modifications appliquées</translation>
+        </message>
+        <message>
+            <source>Checksum and listing</source>
+            <translation>Somme de contrôle et listage</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -640,6 +652,10 @@
             <translation>Les téléchargements interrompus reprennent automatiquement. Mettez 0 pour désactiver.</translation>
         </message>
         <message>
+            <source>LIST listings</source>
+            <translation>Listages LIST</translation>
+        </message>
+        <message>
             <source>Language</source>
             <translation>Langue</translation>
         </message>
@@ -670,6 +686,10 @@
         <message>
             <source>Low disk</source>
             <translation>Disque presque plein</translation>
+        </message>
+        <message>
+            <source>MLSD listings</source>
+            <translation>Listages MLSD</translation>
         </message>
         <message>
             <source>Made by the Tarnel developers.</source>
@@ -750,6 +770,10 @@
         <message>
             <source>New Connection</source>
             <translation>Nouvelle connexion</translation>
+        </message>
+        <message>
+            <source>No checksum: files are verified by size</source>
+            <translation>Aucune somme de contrôle : les fichiers sont vérifiés par leur taille</translation>
         </message>
         <message>
             <source>No connections</source>

@@ -56,6 +56,14 @@
             <translation> in attesa di stabilità</translation>
         </message>
         <message>
+            <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
+            <translation>Il checksum %@ non corrisponde: il server indica %@, il download dà %@. Il file non è stato collocato e resta sul server; verrà scaricato di nuovo.</translation>
+        </message>
+        <message>
+            <source>%@ checksums</source>
+            <translation>Checksum %@</translation>
+        </message>
+        <message>
             <source>%lld files found</source>
             <translation>%lld file trovati</translation>
         </message>
@@ -318,6 +326,10 @@
         <message>
             <source>Changes applied</source>
             <translation>Modifiche applicate</translation>
+        </message>
+        <message>
+            <source>Checksum and listing</source>
+            <translation>Checksum ed elenco</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -640,6 +652,10 @@
             <translation>I download interrotti riprendono automaticamente. Imposta 0 per disattivare.</translation>
         </message>
         <message>
+            <source>LIST listings</source>
+            <translation>Elenchi LIST</translation>
+        </message>
+        <message>
             <source>Language</source>
             <translation>Lingua</translation>
         </message>
@@ -670,6 +686,10 @@
         <message>
             <source>Low disk</source>
             <translation>Disco quasi pieno</translation>
+        </message>
+        <message>
+            <source>MLSD listings</source>
+            <translation>Elenchi MLSD</translation>
         </message>
         <message>
             <source>Made by the Tarnel developers.</source>
@@ -750,6 +770,10 @@
         <message>
             <source>New Connection</source>
             <translation>Nuova connessione</translation>
+        </message>
+        <message>
+            <source>No checksum: files are verified by size</source>
+            <translation>Nessun checksum: i file sono verificati in base alla dimensione</translation>
         </message>
         <message>
             <source>No connections</source>

@@ -56,6 +56,14 @@
             <translation> 件がサイズの安定待ち</translation>
         </message>
         <message>
+            <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
+            <translation>%@ チェックサムが一致しません: サーバーは %@、ダウンロードは %@ です。ファイルは配置されず、サーバーに残ります。再度ダウンロードされます。</translation>
+        </message>
+        <message>
+            <source>%@ checksums</source>
+            <translation>%@ チェックサム</translation>
+        </message>
+        <message>
             <source>%lld files found</source>
             <translation>%lld 個のファイルが見つかりました</translation>
         </message>
@@ -318,6 +326,10 @@
         <message>
             <source>Changes applied</source>
             <translation>変更を適用しました</translation>
+        </message>
+        <message>
+            <source>Checksum and listing</source>
+            <translation>チェックサムと一覧</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -640,6 +652,10 @@
             <translation>中断したダウンロードは自動的に再開します。0 にすると無効になります。</translation>
         </message>
         <message>
+            <source>LIST listings</source>
+            <translation>LIST による一覧</translation>
+        </message>
+        <message>
             <source>Language</source>
             <translation>言語</translation>
         </message>
@@ -670,6 +686,10 @@
         <message>
             <source>Low disk</source>
             <translation>ディスク不足</translation>
+        </message>
+        <message>
+            <source>MLSD listings</source>
+            <translation>MLSD による一覧</translation>
         </message>
         <message>
             <source>Made by the Tarnel developers.</source>
@@ -750,6 +770,10 @@
         <message>
             <source>New Connection</source>
             <translation>新しい接続</translation>
+        </message>
+        <message>
+            <source>No checksum: files are verified by size</source>
+            <translation>チェックサムなし: ファイルはサイズで検証されます</translation>
         </message>
         <message>
             <source>No connections</source>

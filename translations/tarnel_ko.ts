@@ -56,6 +56,14 @@
             <translation>개 파일 크기 안정 대기 중</translation>
         </message>
         <message>
+            <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
+            <translation>%@ 체크섬 불일치: 서버는 %@, 다운로드는 %@입니다. 파일은 배치되지 않았으며 서버에 남아 있고, 다시 다운로드됩니다.</translation>
+        </message>
+        <message>
+            <source>%@ checksums</source>
+            <translation>%@ 체크섬</translation>
+        </message>
+        <message>
             <source>%lld files found</source>
             <translation>파일 %lld개 찾음</translation>
         </message>
@@ -318,6 +326,10 @@
         <message>
             <source>Changes applied</source>
             <translation>변경 사항 적용됨</translation>
+        </message>
+        <message>
+            <source>Checksum and listing</source>
+            <translation>체크섬 및 목록</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -640,6 +652,10 @@
             <translation>중단된 다운로드는 자동으로 이어받습니다. 끄려면 0으로 설정하세요.</translation>
         </message>
         <message>
+            <source>LIST listings</source>
+            <translation>LIST 목록</translation>
+        </message>
+        <message>
             <source>Language</source>
             <translation>언어</translation>
         </message>
@@ -670,6 +686,10 @@
         <message>
             <source>Low disk</source>
             <translation>디스크 부족</translation>
+        </message>
+        <message>
+            <source>MLSD listings</source>
+            <translation>MLSD 목록</translation>
         </message>
         <message>
             <source>Made by the Tarnel developers.</source>
@@ -750,6 +770,10 @@
         <message>
             <source>New Connection</source>
             <translation>새 연결</translation>
+        </message>
+        <message>
+            <source>No checksum: files are verified by size</source>
+            <translation>체크섬 없음: 파일 크기로 확인합니다</translation>
         </message>
         <message>
             <source>No connections</source>

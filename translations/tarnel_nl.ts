@@ -56,6 +56,14 @@
             <translation> wachten op stabiliteit</translation>
         </message>
         <message>
+            <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
+            <translation>%@-controlesom komt niet overeen: de server meldt %@, de download geeft %@. Het bestand is niet geplaatst en blijft op de server; het wordt opnieuw gedownload.</translation>
+        </message>
+        <message>
+            <source>%@ checksums</source>
+            <translation>%@-controlesommen</translation>
+        </message>
+        <message>
             <source>%lld files found</source>
             <translation>%lld bestanden gevonden</translation>
         </message>
@@ -318,6 +326,10 @@
         <message>
             <source>Changes applied</source>
             <translation>Wijzigingen toegepast</translation>
+        </message>
+        <message>
+            <source>Checksum and listing</source>
+            <translation>Controlesom en lijst</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -640,6 +652,10 @@
             <translation>Onderbroken downloads worden automatisch hervat. Zet op 0 om dit uit te schakelen.</translation>
         </message>
         <message>
+            <source>LIST listings</source>
+            <translation>LIST-lijsten</translation>
+        </message>
+        <message>
             <source>Language</source>
             <translation>Taal</translation>
         </message>
@@ -670,6 +686,10 @@
         <message>
             <source>Low disk</source>
             <translation>Schijf bijna vol</translation>
+        </message>
+        <message>
+            <source>MLSD listings</source>
+            <translation>MLSD-lijsten</translation>
         </message>
         <message>
             <source>Made by the Tarnel developers.</source>
@@ -750,6 +770,10 @@
         <message>
             <source>New Connection</source>
             <translation>Nieuwe verbinding</translation>
+        </message>
+        <message>
+            <source>No checksum: files are verified by size</source>
+            <translation>Geen controlesom: bestanden worden op grootte gecontroleerd</translation>
         </message>
         <message>
             <source>No connections</source>

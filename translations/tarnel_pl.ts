@@ -56,6 +56,14 @@
             <translation> w oczekiwaniu na stabilizację</translation>
         </message>
         <message>
+            <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
+            <translation>Niezgodna suma kontrolna %@: serwer podaje %@, pobrany plik daje %@. Plik nie został umieszczony i pozostaje na serwerze; zostanie pobrany ponownie.</translation>
+        </message>
+        <message>
+            <source>%@ checksums</source>
+            <translation>Sumy kontrolne %@</translation>
+        </message>
+        <message>
             <source>%lld files found</source>
             <translation>Znalezione pliki: %lld</translation>
         </message>
@@ -318,6 +326,10 @@
         <message>
             <source>Changes applied</source>
             <translation>Zmiany zastosowane</translation>
+        </message>
+        <message>
+            <source>Checksum and listing</source>
+            <translation>Suma kontrolna i listowanie</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -640,6 +652,10 @@
             <translation>Przerwane pobieranie wznawia się automatycznie. Ustaw 0, aby wyłączyć.</translation>
         </message>
         <message>
+            <source>LIST listings</source>
+            <translation>Listowanie przez LIST</translation>
+        </message>
+        <message>
             <source>Language</source>
             <translation>Język</translation>
         </message>
@@ -670,6 +686,10 @@
         <message>
             <source>Low disk</source>
             <translation>Mało miejsca</translation>
+        </message>
+        <message>
+            <source>MLSD listings</source>
+            <translation>Listowanie przez MLSD</translation>
         </message>
         <message>
             <source>Made by the Tarnel developers.</source>
@@ -750,6 +770,10 @@
         <message>
             <source>New Connection</source>
             <translation>Nowe połączenie</translation>
+        </message>
+        <message>
+            <source>No checksum: files are verified by size</source>
+            <translation>Brak sumy kontrolnej: pliki są sprawdzane według rozmiaru</translation>
         </message>
         <message>
             <source>No connections</source>

@@ -56,6 +56,14 @@
             <translation> à espera de estabilidade</translation>
         </message>
         <message>
+            <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
+            <translation>A soma de verificação %@ não coincide: o servidor indica %@, a transferência dá %@. O ficheiro não foi colocado e permanece no servidor; será transferido novamente.</translation>
+        </message>
+        <message>
+            <source>%@ checksums</source>
+            <translation>Somas de verificação %@</translation>
+        </message>
+        <message>
             <source>%lld files found</source>
             <translation>%lld ficheiros encontrados</translation>
         </message>
@@ -318,6 +326,10 @@
         <message>
             <source>Changes applied</source>
             <translation>Alterações aplicadas</translation>
+        </message>
+        <message>
+            <source>Checksum and listing</source>
+            <translation>Soma de verificação e listagem</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -640,6 +652,10 @@
             <translation>As transferências interrompidas são retomadas automaticamente. Defina 0 para desativar.</translation>
         </message>
         <message>
+            <source>LIST listings</source>
+            <translation>Listagens LIST</translation>
+        </message>
+        <message>
             <source>Language</source>
             <translation>Idioma</translation>
         </message>
@@ -670,6 +686,10 @@
         <message>
             <source>Low disk</source>
             <translation>Pouco espaço</translation>
+        </message>
+        <message>
+            <source>MLSD listings</source>
+            <translation>Listagens MLSD</translation>
         </message>
         <message>
             <source>Made by the Tarnel developers.</source>
@@ -750,6 +770,10 @@
         <message>
             <source>New Connection</source>
             <translation>Nova ligação</translation>
+        </message>
+        <message>
+            <source>No checksum: files are verified by size</source>
+            <translation>Sem soma de verificação: os ficheiros são verificados pelo tamanho</translation>
         </message>
         <message>
             <source>No connections</source>

@@ -56,6 +56,14 @@
             <translation> dosya sabitlenmeyi bekliyor</translation>
         </message>
         <message>
+            <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
+            <translation>%@ sağlama toplamı uyuşmuyor: sunucu %@ diyor, indirme %@ veriyor. Dosya yerleştirilmedi ve sunucuda kalıyor; yeniden indirilecek.</translation>
+        </message>
+        <message>
+            <source>%@ checksums</source>
+            <translation>%@ sağlama toplamları</translation>
+        </message>
+        <message>
             <source>%lld files found</source>
             <translation>%lld dosya bulundu</translation>
         </message>
@@ -318,6 +326,10 @@
         <message>
             <source>Changes applied</source>
             <translation>Değişiklikler uygulandı</translation>
+        </message>
+        <message>
+            <source>Checksum and listing</source>
+            <translation>Sağlama toplamı ve listeleme</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -640,6 +652,10 @@
             <translation>Kesilen indirmeler kendiliğinden sürdürülür. Kapatmak için 0 yapın.</translation>
         </message>
         <message>
+            <source>LIST listings</source>
+            <translation>LIST listeleri</translation>
+        </message>
+        <message>
             <source>Language</source>
             <translation>Dil</translation>
         </message>
@@ -670,6 +686,10 @@
         <message>
             <source>Low disk</source>
             <translation>Disk alanı az</translation>
+        </message>
+        <message>
+            <source>MLSD listings</source>
+            <translation>MLSD listeleri</translation>
         </message>
         <message>
             <source>Made by the Tarnel developers.</source>
@@ -750,6 +770,10 @@
         <message>
             <source>New Connection</source>
             <translation>Yeni Bağlantı</translation>
+        </message>
+        <message>
+            <source>No checksum: files are verified by size</source>
+            <translation>Sağlama toplamı yok: dosyalar boyutlarıyla doğrulanır</translation>
         </message>
         <message>
             <source>No connections</source>

@@ -56,6 +56,14 @@
             <translation> 个等待大小稳定</translation>
         </message>
         <message>
+            <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
+            <translation>%@ 校验和不匹配：服务器为 %@，下载结果为 %@。文件未放置，仍保留在服务器上；将重新下载。</translation>
+        </message>
+        <message>
+            <source>%@ checksums</source>
+            <translation>%@ 校验和</translation>
+        </message>
+        <message>
             <source>%lld files found</source>
             <translation>找到 %lld 个文件</translation>
         </message>
@@ -318,6 +326,10 @@
         <message>
             <source>Changes applied</source>
             <translation>已应用更改</translation>
+        </message>
+        <message>
+            <source>Checksum and listing</source>
+            <translation>校验和与列表</translation>
         </message>
         <message>
             <source>Choose...</source>
@@ -640,6 +652,10 @@
             <translation>中断的下载会自动续传。设为 0 可禁用。</translation>
         </message>
         <message>
+            <source>LIST listings</source>
+            <translation>LIST 列表</translation>
+        </message>
+        <message>
             <source>Language</source>
             <translation>语言</translation>
         </message>
@@ -670,6 +686,10 @@
         <message>
             <source>Low disk</source>
             <translation>磁盘不足</translation>
+        </message>
+        <message>
+            <source>MLSD listings</source>
+            <translation>MLSD 列表</translation>
         </message>
         <message>
             <source>Made by the Tarnel developers.</source>
@@ -750,6 +770,10 @@
         <message>
             <source>New Connection</source>
             <translation>新建连接</translation>
+        </message>
+        <message>
+            <source>No checksum: files are verified by size</source>
+            <translation>无校验和：按大小校验文件</translation>
         </message>
         <message>
             <source>No connections</source>

@@ -319,8 +319,17 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         activeDownloads_.set(std::move(rows));
 
         const std::string url = remoteFileURL(file);
-        co_await ftpService_->downloadFile(tempPath.filename().string(), tempPath, offset,
-                                           progressReporter(rowId, key, file.size), url);
+        ChecksumVerdict verdict;
+        try {
+            verdict = co_await ftpService_->downloadFile(tempPath.filename().string(), tempPath,
+                                                         offset,
+                                                         progressReporter(rowId, key, file.size),
+                                                         url);
+        } catch (const FTPError& e) {
+            // Bytes the server disowns: none of them is kept to resume from.
+            if (e.kind() == FTPError::Kind::checksumMismatch) partials.discard(connectionId, key);
+            throw;
+        }
         removeProgressRow(rowId);
 
         std::error_code ec;
@@ -381,7 +390,14 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         });
         log(std::string("Verified") + (resume ? " (resumed)" : "") + ": " + key + " \u2014 " +
             formatFileByteCount(local));
-        if (config_.checksumVerification) {
+        if (verdict.algorithm) {
+            log(std::string(digestName(*verdict.algorithm)) + " matches the server: " + key +
+                " = " + verdict.digest);
+        } else if (config_.checksumVerification) {
+            if (!verdict.unanswered.empty())
+                log("The server gave no checksum for " + key + " (" + verdict.unanswered +
+                        "); verified by its size",
+                    LogLevel::warning);
             const std::string digest = co_await computeMD5(services_.runtime, placed);
             log("MD5: " + key + " = " + digest);
         }

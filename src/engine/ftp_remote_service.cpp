@@ -23,13 +23,16 @@ Task<std::vector<FTPFileEntry>> FtpRemoteService::collectFiles(
 }
 
 // Downloads and deletes hold no worker thread while they wait: the client's driver runs them.
-Task<void> FtpRemoteService::downloadFile(std::string name, std::filesystem::path to,
-                                          std::int64_t resumeFrom, ProgressCallback onProgress,
-                                          std::optional<std::string> remoteURL) {
+Task<ChecksumVerdict> FtpRemoteService::downloadFile(std::string name, std::filesystem::path to,
+                                                     std::int64_t resumeFrom,
+                                                     ProgressCallback onProgress,
+                                                     std::optional<std::string> remoteURL) {
+    auto verdict = std::make_shared<ChecksumVerdict>();
     co_await whenComplete(runtime_, [&](Completion done) {
         service_->startDownloadFile(name, to, resumeFrom, std::move(onProgress), remoteURL,
-                                    std::move(done));
+                                    verdict, std::move(done));
     });
+    co_return *verdict;
 }
 
 Task<void> FtpRemoteService::deleteFile(std::string name) {

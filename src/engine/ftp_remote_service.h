@@ -18,9 +18,9 @@ public:
     Task<std::vector<FTPFileEntry>> listFilesAtPath(std::string path) override;
     Task<std::vector<FTPFileEntry>> collectFiles(
         std::string path, int maxDepth, std::optional<std::vector<std::string>> allowedPaths) override;
-    Task<void> downloadFile(std::string name, std::filesystem::path to, std::int64_t resumeFrom,
-                            ProgressCallback onProgress,
-                            std::optional<std::string> remoteURL) override;
+    Task<ChecksumVerdict> downloadFile(std::string name, std::filesystem::path to,
+                                       std::int64_t resumeFrom, ProgressCallback onProgress,
+                                       std::optional<std::string> remoteURL) override;
     Task<void> deleteFile(std::string name) override;
     Task<void> deleteDirectory(std::string path) override;
 

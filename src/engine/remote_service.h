@@ -9,6 +9,7 @@
 
 #include "platform/task.h"
 #include "transfer/ftp_file_entry.h"
+#include "transfer/server_features.h"
 
 namespace tarnel {
 
@@ -28,10 +29,13 @@ public:
     // The walk below `path`, depth-first, descending only towards `allowedPaths`.
     virtual Task<std::vector<FTPFileEntry>> collectFiles(
         std::string path, int maxDepth, std::optional<std::vector<std::string>> allowedPaths) = 0;
-    // `onProgress` is called on the thread that moves the bytes, not on the loop.
-    virtual Task<void> downloadFile(std::string name, std::filesystem::path to,
-                                    std::int64_t resumeFrom, ProgressCallback onProgress,
-                                    std::optional<std::string> remoteURL) = 0;
+    // `onProgress` is called on the thread that moves the bytes, not on the loop. With checksum
+    // verification, a server checksum that differs fails with FTPError::checksumMismatch; the
+    // verdict says how the file was vouched for otherwise.
+    virtual Task<ChecksumVerdict> downloadFile(std::string name, std::filesystem::path to,
+                                               std::int64_t resumeFrom,
+                                               ProgressCallback onProgress,
+                                               std::optional<std::string> remoteURL) = 0;
     virtual Task<void> deleteFile(std::string name) = 0;
     virtual Task<void> deleteDirectory(std::string path) = 0;
 };

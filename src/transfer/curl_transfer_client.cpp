@@ -13,6 +13,7 @@
 #include <netdb.h>
 #include <sys/socket.h>
 
+#include "transfer/digest.h"
 #include "transfer/ftp_error.h"
 #include "transfer/text_lines.h"
 
@@ -27,11 +28,31 @@ size_t appendToData(char* buffer, size_t size, size_t count, void* data) {
     return size * count;
 }
 
-size_t writeToFile(char* buffer, size_t size, size_t count, void* stream) {
-    if (buffer == nullptr || stream == nullptr) {
+// Where a download's bytes go: the file, and the digest of the file when one is asked for.
+struct DownloadSink {
+    FILE* file = nullptr;
+    std::optional<Digest> digest;
+    std::filesystem::path path;
+    std::int64_t keptBytes = 0;  // of an earlier attempt, digested before the first new byte
+    bool keptDigested = true;
+
+    // The bytes a resumed download keeps are read once, before the first new one is written:
+    // no digest state outlives an attempt.
+    bool digestKept() {
+        if (!keptDigested) keptDigested = digest->updateFromFile(path, keptBytes);
+        return keptDigested;
+    }
+};
+
+size_t writeToFile(char* buffer, size_t size, size_t count, void* data) {
+    if (buffer == nullptr || data == nullptr) {
         return 0;
     }
-    return std::fwrite(buffer, size, count, static_cast<FILE*>(stream));
+    auto& sink = *static_cast<DownloadSink*>(data);
+    if (sink.digest && !sink.digestKept()) return 0;
+    const size_t written = std::fwrite(buffer, size, count, sink.file);
+    if (sink.digest) sink.digest->update(buffer, written * size);
+    return written;
 }
 
 size_t discardBytes(char*, size_t size, size_t count, void*) {
@@ -167,8 +188,11 @@ struct CurlTransferClient::Operation {
     std::function<void(Operation&, CURLcode)> finish;
     Completion done;  // told the result once
     std::optional<EasyHandlePool::Lease> lease;
-    std::string text;  // what a listing receives
+    long reply = 0;       // the server's last reply code
+    std::string text;     // what a listing receives
+    std::string replies;  // the server's replies, where the operation asks for them
     std::unique_ptr<FILE, int (*)(FILE*)> file{nullptr, std::fclose};
+    DownloadSink sink;
     std::unique_ptr<curl_slist, void (*)(curl_slist*)> commands{nullptr, curl_slist_free_all};
     std::optional<ProgressContext> progress;
 };
@@ -237,6 +261,7 @@ void CurlTransferClient::end(const std::shared_ptr<Operation>& op, CURLcode code
     const long opened = countConnections(easy);
     long reply = 0;
     curl_easy_getinfo(easy, CURLINFO_RESPONSE_CODE, &reply);
+    op->reply = reply;
     if (code != CURLE_OK) {
         // One refused CWD or a cut connection can leave the session where every later
         // operation fails; a fresh login costs little beside that.
@@ -331,39 +356,93 @@ void CurlTransferClient::run(const std::shared_ptr<Operation>& op) {
     if (*error) std::rethrow_exception(*error);
 }
 
-std::string CurlTransferClient::readText(const std::string& url, bool namesOnly, bool headersOnly) {
-    auto op = std::make_shared<Operation>(url, [namesOnly, headersOnly](Operation& o, CURL* h) {
-        if (namesOnly) {
+std::optional<std::string> CurlTransferClient::readText(const std::string& url, Reading reading) {
+    auto op = std::make_shared<Operation>(url, [reading](Operation& o, CURL* h) {
+        if (reading == Reading::names) {
             curl_easy_setopt(h, CURLOPT_DIRLISTONLY, 1L);
         }
-        if (headersOnly) {
+        if (reading == Reading::machineListing) {
+            curl_easy_setopt(h, CURLOPT_CUSTOMREQUEST, "MLSD");
+        }
+        if (reading == Reading::headers) {
             curl_easy_setopt(h, CURLOPT_NOBODY, 1L);
             curl_easy_setopt(h, CURLOPT_HEADER, 1L);
         }
         curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, appendToData);
         curl_easy_setopt(h, CURLOPT_WRITEDATA, &o.text);
     });
-    run(op);
+    try {
+        run(op);
+    } catch (const FTPError&) {
+        // 500 to 504: the server knows no such command, or not with these arguments.
+        if (reading == Reading::machineListing && op->reply >= 500 && op->reply <= 504)
+            return std::nullopt;
+        throw;
+    }
     return isValidUtf8(op->text) ? std::move(op->text) : std::string{};
 }
 
 std::string CurlTransferClient::fetchHeaders(const std::string& name) {
-    return readText(remoteFileURL(config_, config_.remotePath, name), false, true);
+    return *readText(remoteFileURL(config_, config_.remotePath, name), Reading::headers);
 }
 
 std::string CurlTransferClient::listDirectory(const std::string& url) {
-    return readText(url, false, false);
+    return *readText(url, Reading::listing);
 }
 
 std::string CurlTransferClient::listNames(const std::string& url) {
-    return readText(url, true, false);
+    return *readText(url, Reading::names);
+}
+
+std::optional<std::string> CurlTransferClient::listMachineReadable(const std::string& url) {
+    return readText(url, Reading::machineListing);
+}
+
+std::shared_ptr<CurlTransferClient::Operation> CurlTransferClient::featuresOperation(
+    std::shared_ptr<std::string> replies) {
+    // In the watched folder, where the listings go next on the same session.
+    auto op = std::make_shared<Operation>(
+        remoteFolderURL(config_, config_.remotePath), [](Operation& o, CURL* h) {
+            curl_easy_setopt(h, CURLOPT_QUOTE, o.commands.get());
+            curl_easy_setopt(h, CURLOPT_NOBODY, 1L);
+            curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, discardBytes);
+            curl_easy_setopt(h, CURLOPT_HEADERFUNCTION, appendToData);
+            curl_easy_setopt(h, CURLOPT_HEADERDATA, &o.replies);
+        });
+    // A server that knows no FEAT answers 500, which fails nothing: it offers nothing.
+    op->commands.reset(curl_slist_append(nullptr, "*FEAT"));
+    op->finish = [replies = std::move(replies)](Operation& o, CURLcode) { *replies = o.replies; };
+    return op;
+}
+
+std::string CurlTransferClient::readFeatures() {
+    auto replies = std::make_shared<std::string>();
+    run(featuresOperation(replies));
+    return *replies;
+}
+
+void CurlTransferClient::startReadFeatures(std::shared_ptr<std::string> replies, Completion done) {
+    auto op = featuresOperation(std::move(replies));
+    op->done = std::move(done);
+    launch(std::move(op));
 }
 
 void CurlTransferClient::startDownload(const std::string& url, const std::filesystem::path& to,
                                        std::int64_t resumeFrom, ProgressCallback onProgress,
                                        Completion done) {
+    startDownload(url, to, resumeFrom, std::move(onProgress), std::nullopt, nullptr,
+                  std::move(done));
+}
+
+void CurlTransferClient::startDownload(const std::string& url, const std::filesystem::path& to,
+                                       std::int64_t resumeFrom, ProgressCallback onProgress,
+                                       const std::optional<ChecksumQuery>& checksum,
+                                       std::shared_ptr<DownloadChecksum> answer,
+                                       Completion done) {
     const bool ftp = isFTPFamily(config_.transferProtocol);
-    auto op = std::make_shared<Operation>(url, [ftp, resumeFrom](Operation& o, CURL* h) {
+    const long checksumReply = seconds(timeouts_.checksumReply);
+    auto op = std::make_shared<Operation>(url, [ftp, resumeFrom, checksumReply](Operation& o,
+                                                                                CURL* h) {
         if (resumeFrom > 0) {
             curl_easy_setopt(h, CURLOPT_RESUME_FROM_LARGE, static_cast<curl_off_t>(resumeFrom));
         } else if (ftp) {
@@ -373,7 +452,15 @@ void CurlTransferClient::startDownload(const std::string& url, const std::filesy
             curl_easy_setopt(h, CURLOPT_IGNORE_CONTENT_LENGTH, 1L);
         }
         curl_easy_setopt(h, CURLOPT_WRITEFUNCTION, writeToFile);
-        curl_easy_setopt(h, CURLOPT_WRITEDATA, o.file.get());
+        curl_easy_setopt(h, CURLOPT_WRITEDATA, &o.sink);
+        if (o.commands) {
+            // Asked in the file's folder once its bytes are all sent; the replies carry the
+            // server's digest.
+            curl_easy_setopt(h, CURLOPT_POSTQUOTE, o.commands.get());
+            curl_easy_setopt(h, CURLOPT_SERVER_RESPONSE_TIMEOUT, checksumReply);
+            curl_easy_setopt(h, CURLOPT_HEADERFUNCTION, appendToData);
+            curl_easy_setopt(h, CURLOPT_HEADERDATA, &o.replies);
+        }
         // libssh2 keeps more SFTP reads in flight with a larger buffer: about 40% faster over
         // SFTP (bench/README.md). A cut connection may then lose up to one buffer of bytes.
         curl_easy_setopt(h, CURLOPT_BUFFERSIZE, receiveBufferSize);
@@ -388,6 +475,15 @@ void CurlTransferClient::startDownload(const std::string& url, const std::filesy
     if (!op->file) {
         throw FTPError::localFolderNotWritable(to.string());
     }
+    op->sink.file = op->file.get();
+    if (checksum && answer) {
+        op->sink.digest.emplace(checksum->algorithm);
+        op->sink.path = to;
+        op->sink.keptBytes = std::max<std::int64_t>(resumeFrom, 0);
+        op->sink.keptDigested = op->sink.keptBytes == 0;
+        for (const std::string& command : checksum->commands)
+            op->commands.reset(curl_slist_append(op->commands.release(), command.c_str()));
+    }
     if (onProgress) {
         // The caller sees whole-file figures: the offset is added to both, unless the total is
         // still unknown (0).
@@ -397,9 +493,13 @@ void CurlTransferClient::startDownload(const std::string& url, const std::filesy
         };
     }
     op->endsOnStall = true;
-    op->finish = [to, resumeFrom](Operation& o, CURLcode code) {
+    op->finish = [to, resumeFrom, answer = std::move(answer)](Operation& o, CURLcode code) {
         o.file.reset();  // closed, so that whoever is told finds every byte in it
         if (o.progress && o.progress->error) std::rethrow_exception(o.progress->error);
+        if (code == CURLE_OK && o.sink.digest && o.sink.digestKept()) {
+            answer->localDigest = o.sink.digest->hex();
+            answer->replies = std::move(o.replies);
+        }
         // A failed attempt keeps what it received: the next one resumes from there instead of
         // starting a large file over. A first attempt that received nothing leaves nothing.
         std::error_code ec;

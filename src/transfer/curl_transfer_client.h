@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 
 #include "connections/connection_config.h"
@@ -15,6 +16,7 @@
 #include "transfer/easy_handle_pool.h"
 #include "transfer/ftp_error.h"
 #include "transfer/remote_url.h"
+#include "transfer/server_features.h"
 #include "transfer/session_driver.h"
 #include "transfer/ssh_known_hosts.h"
 
@@ -23,12 +25,22 @@ namespace tarnel {
 // (downloaded, total) in whole-file bytes; a total of 0 means unknown.
 using ProgressCallback = std::function<void(std::int64_t downloaded, std::int64_t total)>;
 
+// What a download asked with a ChecksumQuery brings back, for the caller to compare.
+struct DownloadChecksum {
+    std::string localDigest;  // of the whole local file, lower-case hex
+    std::string replies;      // the server's replies, the digest's last
+};
+
 // How long operations may take. A download ends only when no byte has come for `stall`, so that
 // a large file under a bandwidth cap still arrives; every other operation ends at `operation`.
 struct TransferTimeouts {
     std::chrono::seconds connect{10};
     std::chrono::seconds operation{300};
     std::chrono::seconds stall{60};
+    // For every reply of a download that asks the server for its checksum: the server reads the
+    // whole file before it answers, half an hour for some hundred GB, where libcurl's own limit
+    // of two minutes would fail every attempt at a large file.
+    std::chrono::seconds checksumReply{1800};
 };
 
 // The one place that talks libcurl. Turns a connection record into libcurl options and offers
@@ -60,12 +72,26 @@ public:
     std::string listDirectory(const std::string& url);
     // Bare names of the folder at `url`; "" if it is not UTF-8.
     std::string listNames(const std::string& url);
+    // MLSD of the folder at `url`; "" if it is not UTF-8; nullopt if the server refuses the
+    // command itself. FTP only.
+    std::optional<std::string> listMachineReadable(const std::string& url);
+    // The replies of a session that sent FEAT, in the login folder. FTP only.
+    std::string readFeatures();
+    // The same, told to `done`; `replies` holds them by then.
+    void startReadFeatures(std::shared_ptr<std::string> replies, Completion done);
     // Fetches `url` into `to`, appending from `resumeFrom` when that is above 0. A failed
     // attempt keeps the bytes it received, so that the next one resumes; a first attempt that
     // received none leaves no file.
     // `done` runs on the driver's thread once the file is closed; `onProgress` there too.
     void startDownload(const std::string& url, const std::filesystem::path& to,
                        std::int64_t resumeFrom, ProgressCallback onProgress, Completion done);
+    // The same, with the digest of `checksum` computed of the bytes as they are written (those
+    // a resume keeps are read once first) and the server asked for its own after the transfer:
+    // both are in `answer` when `done` is told of a success. FTP only.
+    void startDownload(const std::string& url, const std::filesystem::path& to,
+                       std::int64_t resumeFrom, ProgressCallback onProgress,
+                       const std::optional<ChecksumQuery>& checksum,
+                       std::shared_ptr<DownloadChecksum> answer, Completion done);
     // `path` is the folder's path as the listing named it: `remotePath` and the folders below.
     void startRemoveDirectory(const std::string& path, Completion done);
     // `name` is a path below `remotePath`.
@@ -129,7 +155,11 @@ private:
     long countConnections(CURL* handle);
     // Tells the caller of `op` its result, once; nothing leaves here.
     static void tell(Operation& op, std::exception_ptr error) noexcept;
-    std::string readText(const std::string& url, bool namesOnly, bool headersOnly);
+    enum class Reading { listing, names, machineListing, headers };
+    // nullopt only for a machine listing the server refuses.
+    std::optional<std::string> readText(const std::string& url, Reading reading);
+    // Sends FEAT; its replies go to `replies` once the operation has ended.
+    std::shared_ptr<Operation> featuresOperation(std::shared_ptr<std::string> replies);
     // Removes `item` of `folder` (a path from the server root) with the FTP command `ftpVerb`
     // or the SFTP command `sftpVerb`.
     void startRemoveItem(const std::string& folder, const std::string& item, const char* ftpVerb,

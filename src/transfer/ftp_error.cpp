@@ -108,6 +108,15 @@ FTPError FTPError::sizeMismatch(std::int64_t expected, std::int64_t got) {
                         {formatFileByteCount(expected), formatFileByteCount(got)}));
 }
 
+FTPError FTPError::checksumMismatch(const std::string& algorithm, const std::string& server,
+                                    const std::string& local) {
+    return FTPError(Kind::checksumMismatch, 0, algorithm,
+                    localizedFormat("%@ checksum mismatch: the server says %@, the download gives "
+                                    "%@. The file was not placed and stays on the server; it "
+                                    "will be downloaded again.",
+                                    {algorithm, server, local}));
+}
+
 FTPError FTPError::emptyFile(std::string name) {
     std::string description =
         localizedFormat("Downloaded file '%@' is empty. The remote file may be corrupted or still "

@@ -17,6 +17,7 @@ public:
         deleteFailed,
         parseFailed,
         sizeMismatch,
+        checksumMismatch,
         emptyFile,
         localFolderNotWritable,
         insufficientDiskSpace,
@@ -32,6 +33,10 @@ public:
     static FTPError deleteFailed(std::string text);
     static FTPError parseFailed(std::string text);
     static FTPError sizeMismatch(std::int64_t expected, std::int64_t got);
+    // The server's own digest of the file (`algorithm`, a name such as "SHA-256") differs from
+    // that of the bytes received.
+    static FTPError checksumMismatch(const std::string& algorithm, const std::string& server,
+                                     const std::string& local);
     static FTPError emptyFile(std::string name);
     static FTPError localFolderNotWritable(std::string path);
     static FTPError insufficientDiskSpace(double availableGB);

@@ -5,6 +5,7 @@
 #include "platform/localized.h"
 #include "transfer/ftp_error.h"
 #include "transfer/listing_parser.h"
+#include "transfer/remote_url.h"
 
 namespace tarnel {
 namespace {
@@ -32,6 +33,21 @@ std::exception_ptr missingAfterDownload(const std::string& name, const std::file
            : "File not found after download: " + name));
 }
 
+bool isFTPFamily(TransferProtocol protocol) {
+    return protocol == TransferProtocol::ftp || protocol == TransferProtocol::ftps;
+}
+
+// What the connection test says the server offers.
+std::string featuresText(const ServerFeatures& features, TransferProtocol protocol) {
+    const auto checksum = offeredChecksum(features);
+    std::string text =
+        checksum ? localizedFormat("%@ checksums", {std::string(digestName(*checksum))})
+                 : localized("No checksum: files are verified by size");
+    if (!isFTPFamily(protocol)) return text;
+    return text + ", " +
+           (features.machineListings ? localized("MLSD listings") : localized("LIST listings"));
+}
+
 }  // namespace
 
 FTPService::FTPService(ConnectionConfig config, LogService& logService,
@@ -48,8 +64,69 @@ void FTPService::log(const std::string& text, LogLevel level) {
     logService_.log("[" + config_.name + "] " + text, level);
 }
 
+ServerFeatures FTPService::knownFeatures() {
+    std::lock_guard lock(featuresMutex_);
+    return features_.value_or(ServerFeatures{});
+}
+
+ServerFeatures FTPService::features() {
+    if (!isFTPFamily(config_.transferProtocol)) return {};
+    {
+        std::lock_guard lock(featuresMutex_);
+        if (features_) return *features_;
+    }
+    // Two first listings may both ask: the answers are the same.
+    const ServerFeatures asked = parseFeatures(client_->readFeatures());
+    std::lock_guard lock(featuresMutex_);
+    if (!features_) features_ = asked;
+    return *features_;
+}
+
+void FTPService::withFeatures(std::function<void(std::exception_ptr)> then) {
+    bool known = !isFTPFamily(config_.transferProtocol);
+    {
+        std::lock_guard lock(featuresMutex_);
+        known = known || features_.has_value();
+    }
+    if (known) {
+        then(nullptr);
+        return;
+    }
+    auto replies = std::make_shared<std::string>();
+    client_->startReadFeatures(replies, [this, replies, then = std::move(then)](
+                                            std::exception_ptr error) {
+        if (!error) {
+            std::lock_guard lock(featuresMutex_);
+            if (!features_) features_ = parseFeatures(*replies);
+        }
+        then(std::move(error));
+    });
+}
+
+void FTPService::fallBackToLIST(const std::string& why) {
+    if (!listsWithLIST_.exchange(true))
+        log("MLSD " + why + "; listing with LIST from now on", LogLevel::info);
+}
+
+std::optional<std::vector<FTPFileEntry>> FTPService::machineListing(const std::string& url,
+                                                                    bool includeDirectories) {
+    if (listsWithLIST_ || !features().machineListings) return std::nullopt;
+    const auto text = client_->listMachineReadable(url);
+    if (!text) {
+        fallBackToLIST("refused by the server");
+        return std::nullopt;
+    }
+    auto entries = parseMachineListing(*text, includeDirectories);
+    if (!entries) fallBackToLIST("gave an answer that does not read as a listing");
+    return entries;
+}
+
 std::vector<FTPFileEntry> FTPService::listFiles() {
     const std::string url = remoteFolderURL(config_, config_.remotePath);
+    if (auto entries = machineListing(url, false)) {
+        inFallbackRun_ = false;
+        return std::move(*entries);
+    }
     auto entries = parseListing(client_->listDirectory(url), false);
     if (!entries.empty()) {
         inFallbackRun_ = false;
@@ -88,6 +165,7 @@ std::vector<FTPFileEntry> FTPService::entriesFromNames(const std::vector<std::st
 
 std::vector<FTPFileEntry> FTPService::listFiles(const std::string& atPath) {
     const std::string url = remoteFolderURL(config_, atPath);
+    if (auto entries = machineListing(url, true)) return std::move(*entries);
     auto entries = parseListing(client_->listDirectory(url), true);
     if (!entries.empty()) {
         return entries;
@@ -117,16 +195,62 @@ void FTPService::collectFiles(const std::string& path, const std::string& relati
     }
 }
 
+void FTPService::tellNoChecksum() {
+    if (!toldNoChecksum_.exchange(true))
+        log("The server offers no checksum; files are verified by their size", LogLevel::info);
+}
+
 void FTPService::startDownloadFile(const std::string& name, const std::filesystem::path& to,
                                    std::int64_t resumeFrom, ProgressCallback onProgress,
-                                   const std::optional<std::string>& remoteURL, Completion done) {
-    const std::string source =
-        remoteURL ? *remoteURL : remoteFileURL(config_, config_.remotePath, name);
-    client_->startDownload(source, to, resumeFrom, std::move(onProgress),
-                           [name, to, done = std::move(done)](std::exception_ptr error) {
-                               if (!error) error = missingAfterDownload(name, to);
-                               done(std::move(error));
-                           });
+                                   const std::optional<std::string>& remoteURL,
+                                   std::shared_ptr<ChecksumVerdict> verdict, Completion done) {
+    std::string source = remoteURL ? *remoteURL : remoteFileURL(config_, config_.remotePath, name);
+    // Told once, also when the download cannot even start after the features were asked for.
+    auto finished = std::make_shared<Completion>(std::move(done));
+    const auto ended = [name, to, finished](std::function<std::exception_ptr()> judge = {}) {
+        return [name, to, finished, judge = std::move(judge)](std::exception_ptr error) {
+            if (!error) error = missingAfterDownload(name, to);
+            if (!error && judge) error = judge();
+            (*finished)(std::move(error));
+        };
+    };
+    if (!config_.checksumVerification || !verdict) {
+        client_->startDownload(source, to, resumeFrom, std::move(onProgress), ended());
+        return;
+    }
+    withFeatures([=, this, onProgress = std::move(onProgress)](std::exception_ptr error) mutable {
+        if (error) {
+            (*finished)(std::move(error));
+            return;
+        }
+        try {
+            const auto query = checksumQuery(knownFeatures(), remoteItemName(source));
+            if (!query) {
+                tellNoChecksum();
+                client_->startDownload(source, to, resumeFrom, std::move(onProgress), ended());
+                return;
+            }
+            auto answer = std::make_shared<DownloadChecksum>();
+            const DigestAlgorithm algorithm = query->algorithm;
+            client_->startDownload(
+                source, to, resumeFrom, std::move(onProgress), query, answer,
+                ended([algorithm, answer, verdict]() -> std::exception_ptr {
+                    const auto server = digestInReply(answer->replies, algorithm);
+                    if (!server) {
+                        verdict->unanswered = lastReply(answer->replies);
+                        return nullptr;
+                    }
+                    if (*server != answer->localDigest)
+                        return std::make_exception_ptr(FTPError::checksumMismatch(
+                            std::string(digestName(algorithm)), *server, answer->localDigest));
+                    verdict->algorithm = algorithm;
+                    verdict->digest = *server;
+                    return nullptr;
+                }));
+        } catch (...) {
+            (*finished)(std::current_exception());
+        }
+    });
 }
 
 void FTPService::startDeleteFile(const std::string& name, Completion done) {
@@ -138,11 +262,12 @@ void FTPService::startDeleteDirectory(const std::string& path, Completion done) 
 }
 
 int FTPService::testConnectionSteps(const TestProgress& progress) {
-    std::vector<TestStep> steps(4);
+    std::vector<TestStep> steps(5);
     steps[0].name = localized("DNS resolution");
     steps[1].name = localized("TCP connection");
     steps[2].name = localized("Authentication");
     steps[3].name = localized("Remote folder access");
+    steps[4].name = localized("Checksum and listing");
 
     const auto set = [&](std::size_t row, TestStepStatus status,
                          std::optional<std::string> detail = std::nullopt) {
@@ -204,6 +329,14 @@ int FTPService::testConnectionSteps(const TestProgress& progress) {
     set(3, TestStepStatus::success,
         count == 1 ? localized("1 file found")
                    : localizedFormat("%lld files found", {std::to_string(count)}));
+
+    set(4, TestStepStatus::running);
+    try {
+        set(4, TestStepStatus::success, featuresText(features(), config_.transferProtocol));
+    } catch (const std::exception& error) {
+        failRow(4, error.what());
+        throw;
+    }
     return static_cast<int>(count);
 }
 

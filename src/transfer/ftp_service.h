@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,7 +14,9 @@
 #include "platform/uuid.h"
 #include "records/log_service.h"
 #include "transfer/curl_transfer_client.h"
+#include "transfer/digest.h"
 #include "transfer/ftp_file_entry.h"
+#include "transfer/server_features.h"
 
 namespace tarnel {
 
@@ -51,15 +54,23 @@ public:
                       std::vector<FTPFileEntry>& into);
 
     // Fetches `name` (below `remotePath`), or `remoteURL` as it stands when given, into `to`.
+    // With `checksumVerification` the server's own checksum of the file, where it offers one,
+    // is compared with the digest of the bytes received: a difference fails the download with
+    // FTPError::checksumMismatch; `verdict` (when given) says how it went otherwise.
     void startDownloadFile(const std::string& name, const std::filesystem::path& to,
                            std::int64_t resumeFrom, ProgressCallback onProgress,
-                           const std::optional<std::string>& remoteURL, Completion done);
+                           const std::optional<std::string>& remoteURL,
+                           std::shared_ptr<ChecksumVerdict> verdict, Completion done);
     // `name` is a path below `remotePath`.
     void startDeleteFile(const std::string& name, Completion done);
     // `path` is a full path from the server root.
     void startDeleteDirectory(const std::string& path, Completion done);
 
-    // DNS, TCP, login, folder: each row is reported to `progress` as it changes; the first
+    // What the server offers beyond plain FTP, asked once (FEAT) and kept for the connection;
+    // nothing over SFTP. Blocks on the first call.
+    ServerFeatures features();
+
+    // DNS, TCP, login, folder, then what the server offers: each row is reported to `progress` as it changes; the first
     // failure is raised after its row shows it. Returns the number of files in `remotePath`.
     int testConnectionSteps(const TestProgress& progress);
 
@@ -68,12 +79,26 @@ public:
 
 private:
     std::vector<FTPFileEntry> entriesFromNames(const std::vector<std::string>& names);
+    // The MLSD rows of the folder at `url` where the server speaks MLSD; nullopt where LIST
+    // must read it, also after a refused or unreadable MLSD, which turns the connection to LIST.
+    std::optional<std::vector<FTPFileEntry>> machineListing(const std::string& url,
+                                                            bool includeDirectories);
+    void fallBackToLIST(const std::string& why);
+    // Runs `then` once the server's features are known: at once, or after asking for them.
+    void withFeatures(std::function<void(std::exception_ptr)> then);
+    ServerFeatures knownFeatures();
+    // Over a connection whose server offers no checksum, said once.
+    void tellNoChecksum();
     void log(const std::string& text, LogLevel level);
 
     ConnectionConfig config_;
     LogService& logService_;
     std::unique_ptr<CurlTransferClient> client_;
     std::atomic<bool> inFallbackRun_{false};  // the last listing of remotePath read no row
+    std::mutex featuresMutex_;
+    std::optional<ServerFeatures> features_;
+    std::atomic<bool> listsWithLIST_{false};     // MLSD failed once: LIST from then on
+    std::atomic<bool> toldNoChecksum_{false};
 };
 
 }  // namespace tarnel

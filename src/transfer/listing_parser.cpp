@@ -105,6 +105,65 @@ std::optional<FTPFileEntry> parseDosLine(std::string_view line) {
     return FTPFileEntry{std::move(name), *size, false, ""};
 }
 
+namespace {
+
+std::string lowered(std::string_view s) {
+    std::string out(s);
+    for (char& c : out) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return out;
+}
+
+// One MLSD line: nullopt if it is no row; a row without an entry (cdir, pdir, hidden, a device)
+// is read and left out.
+std::optional<std::optional<FTPFileEntry>> parseMachineLine(std::string_view line) {
+    const auto blank = line.find(' ');
+    if (blank == std::string_view::npos || blank == 0 || line[blank - 1] != ';') {
+        return std::nullopt;
+    }
+    std::string type;
+    std::optional<std::int64_t> size;
+    for (std::string_view facts = line.substr(0, blank); !facts.empty();) {
+        const auto end = facts.find(';');
+        const std::string_view fact = facts.substr(0, end);
+        facts.remove_prefix(end + 1);
+        const auto equals = fact.find('=');
+        if (equals == std::string_view::npos) return std::nullopt;
+        const std::string key = lowered(fact.substr(0, equals));
+        if (key == "type") type = lowered(fact.substr(equals + 1));
+        if (key == "size") size = parseInt64(fact.substr(equals + 1));
+    }
+    if (type.empty()) return std::nullopt;
+    // Taken whole: what follows the one blank after the facts, to the end of the line.
+    const std::string_view name = line.substr(blank + 1);
+    const bool isDirectory = type == "dir";
+    const bool isFile = type == "file" || type.starts_with("os.unix=slink") ||
+                        type.starts_with("os.unix=symlink");
+    if (name.empty() || name.starts_with('.') || (!isDirectory && !isFile)) {
+        return std::optional<FTPFileEntry>{};
+    }
+    if (isFile && !size) return std::nullopt;
+    return FTPFileEntry{std::string(name), isFile ? *size : 0, isDirectory, ""};
+}
+
+}  // namespace
+
+std::optional<std::vector<FTPFileEntry>> parseMachineListing(std::string_view text,
+                                                             bool includeDirectories) {
+    std::vector<FTPFileEntry> entries;
+    bool anyLine = false;
+    bool anyRow = false;
+    for (std::string_view line : splitLines(text)) {
+        if (trimmed(line).empty()) continue;
+        anyLine = true;
+        const auto row = parseMachineLine(line);
+        if (!row) continue;
+        anyRow = true;
+        if (*row && (includeDirectories || !(*row)->isDirectory)) entries.push_back(**row);
+    }
+    if (anyLine && !anyRow) return std::nullopt;
+    return entries;
+}
+
 std::optional<std::int64_t> parseContentLength(std::string_view headers) {
     static constexpr std::string_view key = "content-length:";
     for (std::string_view line : splitLines(headers)) {

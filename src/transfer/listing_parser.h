@@ -21,6 +21,13 @@ std::optional<FTPFileEntry> parseUnixLine(std::string_view line);
 // `01-15-24  10:30AM  <DIR>  name` or `01-15-24  10:30AM  12345 name`.
 std::optional<FTPFileEntry> parseDosLine(std::string_view line);
 
+// The rows of an MLSD answer, `type=file;size=1024;modify=20240115103000; name`: files and
+// folders as their type fact says, links as files, each name whole (" -> " and blanks
+// included); `cdir`, `pdir`, other types and hidden names are left out, as LIST's reader does.
+// nullopt when the text has lines and none of them is a row.
+std::optional<std::vector<FTPFileEntry>> parseMachineListing(std::string_view text,
+                                                             bool includeDirectories);
+
 // The figure of the first "Content-Length:" line, case ignored; nothing if it is unusable.
 std::optional<std::int64_t> parseContentLength(std::string_view headers);
 

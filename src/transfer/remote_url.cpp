@@ -1,6 +1,7 @@
 #include "transfer/remote_url.h"
 
 #include <cctype>
+#include <string>
 
 namespace tarnel {
 
@@ -19,6 +20,23 @@ std::string percentEncodedPath(std::string_view name) {
         }
     }
     return encoded.empty() ? std::string(name) : encoded;
+}
+
+std::string remoteItemName(std::string_view url) {
+    const std::string_view segment = url.substr(url.rfind('/') + 1);
+    std::string name;
+    for (std::size_t i = 0; i < segment.size(); ++i) {
+        if (segment[i] == '%' && i + 2 < segment.size() &&
+            std::isxdigit(static_cast<unsigned char>(segment[i + 1])) != 0 &&
+            std::isxdigit(static_cast<unsigned char>(segment[i + 2])) != 0) {
+            const std::string hex(segment.substr(i + 1, 2));
+            name += static_cast<char>(std::stoi(hex, nullptr, 16));
+            i += 2;
+        } else {
+            name += segment[i];
+        }
+    }
+    return name;
 }
 
 std::string remoteFolderURL(const ConnectionConfig& config, std::string_view path) {

@@ -16,6 +16,9 @@ namespace tarnel {
 // may be named. The raw name if that gives nothing.
 std::string percentEncodedPath(std::string_view name);
 
+// The last path segment of `url`, decoded: the name a command in the item's folder gives it.
+std::string remoteItemName(std::string_view url);
+
 // The folder at `path` (from the server root, as the record or a listing names it), ending in
 // "/": a listing of it, or an FTP command run inside it.
 std::string remoteFolderURL(const ConnectionConfig& config, std::string_view path);

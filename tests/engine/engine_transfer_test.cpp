@@ -73,6 +73,7 @@ TEST_P(EngineTransferTest, AGrowingFileIsFetchedOnceSettledIntoItsDatedRenamedPl
     config.organizeByConnection = true;
     config.organizeByDate = true;
     config.renamePattern = "{counter}_{original}";
+    config.checksumVerification = true;
     loop.setLocalTime(2024, 3, 7, 14, 5);
     const std::string full = pattern(300'000);
     serve("photo.raw", full.substr(0, 100'000));
@@ -102,6 +103,14 @@ TEST_P(EngineTransferTest, AGrowingFileIsFetchedOnceSettledIntoItsDatedRenamedPl
     ASSERT_EQ(history.entries()().size(), 1u);
     EXPECT_EQ(history.entries()()[0].finalFilename, "001_photo.raw");
     EXPECT_FALSE(partials.partial(config.id.toString(), "photo.raw").has_value());
+    // The FTP test server vouches with SHA-256; over SFTP there is no server checksum.
+    if (GetParam() == ServerProtocol::sftp) {
+        EXPECT_TRUE(hasLogLine(
+            "INFO [Test] The server offers no checksum; files are verified by their size"));
+        EXPECT_TRUE(hasLogLine("INFO [Test] MD5: photo.raw = "));
+    } else {
+        EXPECT_TRUE(hasLogLine("INFO [Test] SHA-256 matches the server: photo.raw = "));
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Protocols, EngineTransferTest,
@@ -267,6 +276,7 @@ TEST_F(EngineTransferFtpTest, SameNamedFilesFromTwoFoldersBothArriveWhole) {
     config.requiredStableChecks = 0;
     config.exploreSubdirectories = true;
     config.subdirectoryOrganization = SubdirectoryOrganization::flatAll;
+    config.checksumVerification = true;  // each asked of the server in its own folder
     const std::string first = pattern(400'000), second = std::string(300'000, 'b');
     serve("a/x.jpg", first);
     serve("b/x.jpg", second);
@@ -280,6 +290,7 @@ TEST_F(EngineTransferFtpTest, SameNamedFilesFromTwoFoldersBothArriveWhole) {
                                   readFile(dir / "inbox" / "x (1).jpg")};
     EXPECT_EQ(arrived, (std::set<std::string>{first, second}));
     EXPECT_TRUE(filesBelow(ftp->root()).empty());
+    EXPECT_EQ(countLogLines("INFO [Test] SHA-256 matches the server: "), 2);
 }
 
 TEST_F(EngineTransferFtpTest, AListingThatFailsThreeTimesShowsErrorAndRecovers) {

@@ -1,5 +1,6 @@
 """FTP and explicit-TLS FTP on pyftpdlib, with the faults of server_faults."""
 
+import hashlib
 import os
 
 from pyftpdlib.authorizers import AuthenticationFailed, DummyAuthorizer
@@ -81,6 +82,39 @@ def _handler(base, faults, root):
         use_sendfile = False
         auth_failed_timeout = 0.05
         dtp_handler = _download_channel(base.dtp_handler)
+        # The server's own checksum of a file, as proftpd's mod_digest offers it.
+        proto_cmds = dict(base.proto_cmds, XSHA256=dict(
+            perm="r", auth=True, arg=True, help="Syntax: XSHA256 <SP> file-name"))
+
+        def __init__(self, *args, **kwargs):
+            super().__init__(*args, **kwargs)
+            self._extra_feats = self._extra_feats + ["XSHA256"]
+
+        def ftp_XSHA256(self, path):
+            digest = hashlib.sha256()
+            try:
+                with open(path, "rb") as f:
+                    for block in iter(lambda: f.read(65536), b""):
+                        digest.update(block)
+            except OSError as error:
+                self.respond("550 %s." % error.strerror)
+                return None
+            if faults.corrupt_checksums():
+                digest.update(b"corrupt")
+            answer = "250 " + digest.hexdigest().upper()
+            pause = faults.current().get("checksum_reply_pause_seconds")
+            if pause:
+                # As a server reading a large file would, without holding up other sessions.
+                self.ioloop.call_later(pause, self.respond, answer)
+            else:
+                self.respond(answer)
+            return path
+
+        def ftp_MLSD(self, path):
+            if faults.refuse_mlsd():
+                self.respond("502 Command not implemented.")
+                return None
+            return super().ftp_MLSD(path)
 
         # A client asks SIZE before RETR, so the file grows at whichever comes first.
         def ftp_SIZE(self, path):

@@ -237,7 +237,9 @@ void NativeServer::writeProftpdConfig(std::ofstream& conf) {
     conf << 
             "ModulePath "
          << (unpacked / "proftpd/usr/lib/proftpd").string() << "\nSystemLog " << state
-         << "/system.log\nExtendedLog " << state << "/protocol.log ALL default\n";
+         << "/system.log\nExtendedLog " << state << "/protocol.log ALL default\n"
+         // The server's own checksums: HASH, XSHA256, XSHA1, XMD5, XCRC.
+            "LoadModule mod_digest.c\nDigestEngine on\n";
     switch (kind_) {
         case NativeServerKind::proftpd:
             // Only the home can be entered: no CWD to "/" may be needed by anything.

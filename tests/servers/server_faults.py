@@ -38,6 +38,12 @@ class Faults:
     def refuse_delete(self):
         return bool(self.current().get("refuse_delete"))
 
+    def corrupt_checksums(self):
+        return bool(self.current().get("corrupt_checksums"))
+
+    def refuse_mlsd(self):
+        return bool(self.current().get("refuse_mlsd"))
+
     def take_growth(self, name):
         """The bytes to append to `name` before this download, consumed once."""
         with self._locked(fcntl.LOCK_EX):

@@ -294,4 +294,18 @@ void TestServer::throttleDownloads(std::optional<std::int64_t> bytesPerSecond) {
     });
 }
 
+void TestServer::corruptChecksums(bool on) {
+    updateFaults(stateDir, [&](nlohmann::json& f) { f["corrupt_checksums"] = on; });
+}
+
+void TestServer::delayChecksumReplies(std::optional<std::int64_t> seconds) {
+    updateFaults(stateDir, [&](nlohmann::json& f) {
+        setOrErase(f, "checksum_reply_pause_seconds", seconds);
+    });
+}
+
+void TestServer::refuseMachineListings(bool on) {
+    updateFaults(stateDir, [&](nlohmann::json& f) { f["refuse_mlsd"] = on; });
+}
+
 }  // namespace tarnel::testing

@@ -72,6 +72,12 @@ public:
     // Appends `bytes` to the file `name` (relative to root) right before its next download.
     void growOnNextDownload(const std::string& name, const std::string& bytes);
     void throttleDownloads(std::optional<std::int64_t> bytesPerSecond);
+    // FTP: XSHA256 answers the digest of other bytes than the file's.
+    void corruptChecksums(bool on);
+    // FTP: XSHA256 answers `seconds` late.
+    void delayChecksumReplies(std::optional<std::int64_t> seconds);
+    // FTP: MLSD is refused, though FEAT lists MLST.
+    void refuseMachineListings(bool on);
 
 private:
     ServerOptions options;

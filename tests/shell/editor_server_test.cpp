@@ -71,9 +71,13 @@ TEST_P(EditorServerTest, AConnectionMadeInTheEditorIsTestedBrowsedAndFetchesTheC
     EXPECT_TRUE(editor.isTesting());
     loop.runUntilIdle();
     EXPECT_FALSE(editor.isTesting());
+    const std::string offers = GetParam() == ServerProtocol::sftp
+                                   ? "No checksum: files are verified by size"
+                                   : "SHA-256 checksums, MLSD listings";
     EXPECT_EQ(stepStates(editor.testSteps()),
               std::vector<std::string>({"DNS resolution:2:", "TCP connection:2:",
-                                        "Authentication:2:", "Remote folder access:2:0 files found"}));
+                                        "Authentication:2:", "Remote folder access:2:0 files found",
+                                        "Checksum and listing:2:" + offers}));
     EXPECT_EQ(editor.testSteps().resultText().toStdString(), "Connection successful");
 
     editor.browse();

@@ -103,7 +103,8 @@ TEST_F(DriverFaultTest, aFileSystemErrorAfterADownloadFailsItAlone) {
     };
     try {
         waitFor([&](Completion done) {
-            service.startDownloadFile("a.txt", mount / "a.txt", 0, breakMount, std::nullopt, done);
+            service.startDownloadFile("a.txt", mount / "a.txt", 0, breakMount, std::nullopt,
+                                      nullptr, done);
         });
         ADD_FAILURE() << "no error";
     } catch (const FTPError& e) {
@@ -113,7 +114,8 @@ TEST_F(DriverFaultTest, aFileSystemErrorAfterADownloadFailsItAlone) {
             << e.errorDescription();
     }
     waitFor([&](Completion done) {
-        service.startDownloadFile("a.txt", dir / "local" / "a.txt", 0, {}, std::nullopt, done);
+        service.startDownloadFile("a.txt", dir / "local" / "a.txt", 0, {}, std::nullopt, nullptr,
+                                  done);
     });
     EXPECT_EQ(fs::file_size(dir / "local" / "a.txt"), 100'000u);
 }

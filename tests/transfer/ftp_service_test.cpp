@@ -74,7 +74,10 @@ TEST_P(ServiceTest, listsAndWalksTheServersOwnOutput) {
     EXPECT_THROW(service.collectFiles("/missing", "", 0, 3, std::nullopt, walked), FTPError);
 }
 
-TEST_P(ServiceTest, anEmptyFolderFallsBackToANameListAndWarnsOncePerRun) {
+using SftpServiceTest = On<ServiceTest, ServerProtocol::sftp>;
+
+// Over FTP the server speaks MLSD, whose empty answer is an empty folder.
+TEST_F(SftpServiceTest, anEmptyFolderFallsBackToANameListAndWarnsOncePerRun) {
     auto service = makeService();
     const std::string warning = "[Test " +
                                 std::string(protocolName(service.config().transferProtocol)) +
@@ -90,6 +93,53 @@ TEST_P(ServiceTest, anEmptyFolderFallsBackToANameListAndWarnsOncePerRun) {
     EXPECT_EQ(logged(), (std::vector<std::string>{warning, warning}));
 }
 
+using FtpServiceTest = On<ServiceTest, ServerProtocol::ftp>;
+
+// MLSD gives names whole; a server that refuses it is listed with LIST, said once.
+TEST_F(FtpServiceTest, machineListingsWhereOfferedAndLISTAfterARefusal) {
+    write(root / "a -> b.txt", "12345");
+    write(root / "sub" / "c.txt", "c");
+    auto service = makeService();
+    EXPECT_EQ(service.listFiles(), (std::vector<FTPFileEntry>{{"a -> b.txt", 5, false, ""}}));
+    EXPECT_EQ(service.listFiles("/sub"), (std::vector<FTPFileEntry>{{"c.txt", 1, false, ""}}));
+    fs::remove_all(root / "sub");
+    EXPECT_TRUE(service.listFiles("/").size() == 1);
+    EXPECT_TRUE(logged().empty());
+
+    server->refuseMachineListings(true);
+    auto refused = makeService();
+    // LIST cuts the name at its arrow, as it always has.
+    EXPECT_EQ(refused.listFiles(), (std::vector<FTPFileEntry>{{"a", 5, false, ""}}));
+    EXPECT_EQ(refused.listFiles("/").size(), 1u);
+    const std::string fallback =
+        "[Test FTP] MLSD refused by the server; listing with LIST from now on";
+    EXPECT_EQ(logged(), (std::vector<std::string>{fallback}));
+}
+
+// The server reads the whole file before it answers with its checksum: that reply has a limit
+// of its own, beyond libcurl's two minutes.
+TEST_F(FtpServiceTest, aChecksumReplyIsAwaitedWithinItsOwnLimit) {
+    write(root / "x.bin", "12345");
+    auto config = server->connectionConfig();
+    config.checksumVerification = true;
+    server->delayChecksumReplies(2);
+    const auto download = [&](std::chrono::seconds limit) {
+        TransferTimeouts timeouts;
+        timeouts.checksumReply = limit;
+        FTPService service(config, logService,
+                           std::make_unique<CurlTransferClient>(config, dir / "known_hosts",
+                                                                timeouts));
+        auto verdict = std::make_shared<ChecksumVerdict>();
+        waitFor([&](Completion done) {
+            service.startDownloadFile("x.bin", dir / "local" / "x.bin", 0, {}, std::nullopt,
+                                      verdict, done);
+        });
+        return verdict->algorithm;
+    };
+    EXPECT_EQ(download(std::chrono::seconds(10)), DigestAlgorithm::sha256);
+    EXPECT_THROW(download(std::chrono::seconds(1)), FTPError);
+}
+
 // The folder's name holds what a URL would read as a fragment: it is addressed as itself.
 TEST_P(ServiceTest, downloadsByNameOrByTheGivenURL) {
     write(root / "in #1" / "a b.txt", "hello");
@@ -98,7 +148,7 @@ TEST_P(ServiceTest, downloadsByNameOrByTheGivenURL) {
     auto service = makeService(config);
     const fs::path local = dir / "local" / "a.partial";
     const auto download = [&](const std::string& name, std::optional<std::string> url) {
-        waitFor([&](Completion done) { service.startDownloadFile(name, local, 0, {}, url, done); });
+        waitFor([&](Completion done) { service.startDownloadFile(name, local, 0, {}, url, nullptr, done); });
     };
     download("a b.txt", std::nullopt);
     EXPECT_EQ(read(local), "hello");
@@ -144,10 +194,13 @@ TEST_F(ConnectionTest, aLiveServerPassesEveryRow) {
     auto service = makeService();
     Rows rows;
     EXPECT_EQ(service.testConnectionSteps(rows.progress()), 1);
-    EXPECT_EQ(rows.statuses(), (std::vector<S>{S::success, S::success, S::success, S::success}));
+    ASSERT_EQ(rows.statuses(),
+              (std::vector<S>{S::success, S::success, S::success, S::success, S::success}));
     EXPECT_EQ(rows.last[0].name, "DNS resolution");
     EXPECT_EQ(rows.last[3].detail, "1 file found");
-    EXPECT_EQ(rows.calls, 8);  // a start and an end per row
+    EXPECT_EQ(rows.last[4].name, "Checksum and listing");
+    EXPECT_EQ(rows.last[4].detail, "SHA-256 checksums, MLSD listings");
+    EXPECT_EQ(rows.calls, 10);  // a start and an end per row
 }
 
 TEST_F(ConnectionTest, eachFaultStopsAtItsOwnRow) {
@@ -156,7 +209,7 @@ TEST_F(ConnectionTest, eachFaultStopsAtItsOwnRow) {
     Rows wrongPassword;
     EXPECT_THROW(makeService(config).testConnectionSteps(wrongPassword.progress()), FTPError);
     EXPECT_EQ(wrongPassword.statuses(),
-              (std::vector<S>{S::success, S::success, S::failure, S::pending}));
+              (std::vector<S>{S::success, S::success, S::failure, S::pending, S::pending}));
     EXPECT_EQ(wrongPassword.last[2].detail, "Wrong username or password");
 
     config = server->connectionConfig();
@@ -164,7 +217,7 @@ TEST_F(ConnectionTest, eachFaultStopsAtItsOwnRow) {
     Rows wrongFolder;
     EXPECT_THROW(makeService(config).testConnectionSteps(wrongFolder.progress()), FTPError);
     EXPECT_EQ(wrongFolder.statuses(),
-              (std::vector<S>{S::success, S::success, S::success, S::failure}));
+              (std::vector<S>{S::success, S::success, S::success, S::failure, S::pending}));
     EXPECT_EQ(wrongFolder.last[3].detail, "Folder not accessible: /nope");
 
     config.host = "no-such-host.invalid";
@@ -176,14 +229,14 @@ TEST_F(ConnectionTest, eachFaultStopsAtItsOwnRow) {
         EXPECT_EQ(e.curlCode(), CURLE_COULDNT_RESOLVE_HOST);
     }
     EXPECT_EQ(unknownHost.statuses(),
-              (std::vector<S>{S::failure, S::pending, S::pending, S::pending}));
+              (std::vector<S>{S::failure, S::pending, S::pending, S::pending, S::pending}));
     EXPECT_EQ(unknownHost.last[0].detail, "Host 'no-such-host.invalid' not found");
 
     server->stop();
     Rows noServer;
     EXPECT_THROW(makeService().testConnectionSteps(noServer.progress()), FTPError);
     EXPECT_EQ(noServer.statuses(),
-              (std::vector<S>{S::success, S::failure, S::pending, S::pending}));
+              (std::vector<S>{S::success, S::failure, S::pending, S::pending, S::pending}));
     EXPECT_EQ(noServer.last[1].detail, "Cannot connect to port " + std::to_string(server->port()));
 }
 
