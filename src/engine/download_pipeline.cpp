@@ -360,6 +360,12 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
             co_return result;
         }
 
+        // Read before placing: nothing may wait between placing a file and booking it, or a quit
+        // meanwhile would leave a moved file placed, unbooked and still on the server.
+        std::optional<std::string> md5;
+        if (!verdict.algorithm && config_.checksumVerification)
+            md5 = co_await computeMD5(services_.runtime, tempPath);
+
         // A file that stays on the server keeps its record, marked placed, until its booking is
         // surely on disk (the next poll): a crash meanwhile books it at the next start instead
         // of fetching it again. One that is moved off the server loses its record first, so no
@@ -393,13 +399,12 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         if (verdict.algorithm) {
             log(std::string(digestName(*verdict.algorithm)) + " matches the server: " + key +
                 " = " + verdict.digest);
-        } else if (config_.checksumVerification) {
+        } else if (md5) {
             if (!verdict.unanswered.empty())
                 log("The server gave no checksum for " + key + " (" + verdict.unanswered +
                         "); verified by its size",
                     LogLevel::warning);
-            const std::string digest = co_await computeMD5(services_.runtime, placed);
-            log("MD5: " + key + " = " + digest);
+            log("MD5: " + key + " = " + *md5);
         }
 
         afterPlacing("Renaming", [&] {
