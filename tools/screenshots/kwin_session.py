@@ -22,7 +22,26 @@ import uuid
 
 import dbus
 
+
 bus = dbus.SessionBus()
+
+
+# KWin gives screenshots over D-Bus to the programs whose desktop entry asks for them, found
+# through its service cache.
+ENTRY = """[Desktop Entry]
+Type=Application
+Name=Screenshots of this session
+Exec=%s
+NoDisplay=true
+X-KDE-DBUS-Restricted-Interfaces=org.kde.KWin.ScreenShot2
+"""
+
+
+def write_entry():
+    folder = os.path.join(os.environ["HOME"], ".local/share/applications")
+    os.makedirs(folder, exist_ok=True)
+    with open(os.path.join(folder, "tarnel-kwin-session.desktop"), "w") as f:
+        f.write(ENTRY % os.path.realpath(sys.executable))
 
 
 def shot(path):
@@ -30,16 +49,19 @@ def shot(path):
     # A file, not a pipe: KWin may write the whole picture before it answers, and a pipe's
     # buffer is far smaller than a picture. It may also answer first and write after.
     with tempfile.TemporaryFile() as f:
-        for attempt in range(20):
+        for attempt in range(60):
             try:
                 reply = kwin.CaptureWorkspace({"native-resolution": True}, dbus.types.UnixFd(f.fileno()),
                                               dbus_interface="org.kde.KWin.ScreenShot2", timeout=20)
                 break
             except dbus.exceptions.DBusException as e:
-                # KWin finds the helper's desktop entry through the service cache, which kded
-                # may be rebuilding at the start of the session.
-                if not e.get_dbus_name().endswith("NoAuthorized") or attempt == 19:
+                if not e.get_dbus_name().endswith("NoAuthorized") or attempt == 59:
                     raise
+                # KWin reads its cache afresh when the applications folder changes, a little
+                # later; a cache rebuilt meanwhile by another program (kded at its start) it
+                # does not notice.
+                if attempt % 20 == 0:
+                    write_entry()
                 time.sleep(0.5)
         width, height, stride = (int(reply[k]) for k in ("width", "height", "stride"))
         for _ in range(100):
