@@ -38,9 +38,14 @@ X-KDE-DBUS-Restricted-Interfaces=org.kde.KWin.ScreenShot2
 
 
 def write_entry():
+    """Writes the entry under a name not used before, so that KWin sees a new file."""
     folder = os.path.join(os.environ["HOME"], ".local/share/applications")
     os.makedirs(folder, exist_ok=True)
-    with open(os.path.join(folder, "tarnel-kwin-session.desktop"), "w") as f:
+    for old in os.listdir(folder):
+        if old.startswith("tarnel-kwin-session"):
+            os.unlink(os.path.join(folder, old))
+    name = "tarnel-kwin-session-%s.desktop" % uuid.uuid4().hex[:8]
+    with open(os.path.join(folder, name), "w") as f:
         f.write(ENTRY % os.path.realpath(sys.executable))
 
 
@@ -49,13 +54,13 @@ def shot(path):
     # A file, not a pipe: KWin may write the whole picture before it answers, and a pipe's
     # buffer is far smaller than a picture. It may also answer first and write after.
     with tempfile.TemporaryFile() as f:
-        for attempt in range(60):
+        for attempt in range(120):
             try:
                 reply = kwin.CaptureWorkspace({"native-resolution": True}, dbus.types.UnixFd(f.fileno()),
                                               dbus_interface="org.kde.KWin.ScreenShot2", timeout=20)
                 break
             except dbus.exceptions.DBusException as e:
-                if not e.get_dbus_name().endswith("NoAuthorized") or attempt == 59:
+                if not e.get_dbus_name().endswith("NoAuthorized") or attempt == 119:
                     raise
                 # KWin reads its cache afresh when the applications folder changes, a little
                 # later; a cache rebuilt meanwhile by another program (kded at its start) it
