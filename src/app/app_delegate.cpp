@@ -70,7 +70,8 @@ void AppDelegate::applicationDidFinishLaunching() {
 
     // With no tray to click, the popover's content is a small window of its own until a tray
     // appears.
-    const bool trayExists = QSystemTrayIcon::isSystemTrayAvailable();
+    // Asked of the icon, not of Qt: Qt's first answer about the tray is the one it keeps.
+    const bool trayExists = statusItem_->isVisible();
     makePopover(trayExists ? Popover::Kind::popup : Popover::Kind::window);
     if (!trayExists) showPopover();
     // Once a tray appears the icon is the way in: the window gives way to the popup.

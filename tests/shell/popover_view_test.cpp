@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
+#include <QSet>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -88,9 +89,13 @@ TEST_F(PopoverViewTest, AnUpdateKeepsRowsAndTheirMenuOpenAndAMinuteRedrawsTimeTe
     QPointer<QMenu> menu = folders->menu();
     menu->popup(folders->mapToGlobal(QPoint(0, folders->height())));
     ASSERT_TRUE(menu->isVisible());
+    const auto before = view.findChildren<QWidget*>();
 
     view.refresh();
     QTest::qWait(1);  // what the update deleted is gone, what it added is shown
+    // Nothing changed, so nothing is made again: the same widgets, not one more or less.
+    const auto after = view.findChildren<QWidget*>();
+    EXPECT_EQ(QSet<QWidget*>(after.begin(), after.end()), QSet<QWidget*>(before.begin(), before.end()));
     EXPECT_TRUE(row && row->isVisible());
     EXPECT_TRUE(menu && menu->isVisible());
     if (menu) menu->hide();

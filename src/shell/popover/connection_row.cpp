@@ -89,9 +89,13 @@ void ConnectionRow::update(const ConnectionConfig& config) {
     const auto found = manager_.engines().find(id_);
     const SyncEngine* engine = found == manager_.engines().end() ? nullptr : found->second.get();
 
-    power_->setIcon(QIcon(tintedPixmap(symbolIcon(config.enabled ? "power.circle.fill" : "power.circle"),
-                                       16, toneColor(config.enabled ? Tone::blue : Tone::secondary), 2.0)));
-    power_->setToolTip(config.enabled ? ui("Disable connection") : ui("Enable connection"));
+    // An icon set again redraws the button: only a changed state brings a new one.
+    if (const QString tip = config.enabled ? ui("Disable connection") : ui("Enable connection");
+        power_->toolTip() != tip) {
+        power_->setIcon(QIcon(tintedPixmap(symbolIcon(config.enabled ? "power.circle.fill" : "power.circle"),
+                                           16, toneColor(config.enabled ? Tone::blue : Tone::secondary), 2.0)));
+        power_->setToolTip(tip);
+    }
     setElidedText(name_, qs(config.name), nameWidth);
 
     const int downloads = engine ? static_cast<int>(engine->activeDownloads()().size()) : 0;

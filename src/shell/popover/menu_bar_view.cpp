@@ -17,6 +17,7 @@ namespace tarnel {
 namespace {
 
 constexpr int iconSize = 14;
+constexpr int recentRows = 5;
 
 QFrame* separator() {
     auto* line = new QFrame;
@@ -24,11 +25,6 @@ QFrame* separator() {
     line->setFrameShadow(QFrame::Plain);
     line->setStyleSheet(QStringLiteral("color: rgba(0,0,0,0.12);"));
     return line;
-}
-
-QHBoxLayout* iconTextLine(const char* icon, const QString& text, std::optional<Tone> tone,
-                          bool small) {
-    return iconTextLine(icon, textLabel(text, tone, small), tone, small);
 }
 
 QString timeText(TimePoint t) {
@@ -82,8 +78,10 @@ MenuBarView::MenuBarView(ConnectionsManager& manager, AppSettings& settings, Sta
     buildHeader(root);
     banner_ = new QFrame;
     banner_->setObjectName(QStringLiteral("banner"));
-    bannerLayout_ = new QHBoxLayout(banner_);
-    bannerLayout_->setContentsMargins(8, 5, 8, 5);
+    auto* bannerLayout = new QHBoxLayout(banner_);
+    bannerLayout->setContentsMargins(8, 5, 8, 5);
+    bannerLine_ = new KeptLine(iconSize, 1, false);
+    bannerLayout->addWidget(bannerLine_);
     root->addWidget(banner_);
     root->addWidget(separator());
 
@@ -119,17 +117,34 @@ MenuBarView::MenuBarView(ConnectionsManager& manager, AppSettings& settings, Sta
     downloads_ = new QVBoxLayout;
     downloads_->setSpacing(3);
     activity_->addLayout(downloads_);
-    activityLines_ = new QVBoxLayout;
-    activityLines_->setSpacing(3);
-    activity_->addLayout(activityLines_);
+    monitoring_ = textLabel(ui("Monitoring — no transfers in progress"), Tone::secondary, true);
+    activity_->addWidget(monitoring_);
+    moreDownloading_ = textLabel({}, Tone::secondary, true);
+    activity_->addWidget(moreDownloading_);
+    for (std::size_t i = 0; i < ActivityPlan::rows; ++i) {
+        waitingLines_.push_back(new KeptLine(iconSize, 2, false));
+        activity_->addWidget(waitingLines_.back());
+    }
+    moreWaiting_ = textLabel({}, Tone::secondary, true);
+    activity_->addWidget(moreWaiting_);
+    for (int i = 0; i < recentRows; ++i) {
+        recentLines_.push_back(new KeptLine(0, 3, false));
+        recent_->addWidget(recentLines_.back());
+    }
+    noRecent_ = textLabel(ui("No recent downloads"), Tone::secondary, true);
+    recent_->addWidget(noRecent_);
     buildStatistics();
     sections->addStretch();
     scroll->setWidget(content);
     root->addWidget(scroll, 1);
 
     root->addWidget(separator());
-    diskAndNetwork_ = new QHBoxLayout;
-    root->addLayout(diskAndNetwork_);
+    auto* diskAndNetwork = new QHBoxLayout;
+    disk_ = new KeptLine(12, 1, true);
+    network_ = new KeptLine(12, 1, true);
+    diskAndNetwork->addWidget(disk_);
+    diskAndNetwork->addWidget(network_);
+    root->addLayout(diskAndNetwork);
 
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(commandButton(new QPushButton(symbolIcon("arrow.clockwise"), ui("Sync Now")),
@@ -230,7 +245,6 @@ void MenuBarView::refreshHeader() {
                                           manager_.isPausedForNetwork()(),
                                           manager_.aggregatePaused()(), enabled})));
 
-    clearLayout(bannerLayout_);
     const auto banner = bannerFor({manager_.isPausedForNetwork()(), manager_.isOnHotspot()(),
                                    manager_.isPausedForDiskSpace()(),
                                    settings_.preventSleepDuringDownloads(),
@@ -238,9 +252,13 @@ void MenuBarView::refreshHeader() {
     banner_->setVisible(banner.has_value());
     if (!banner) return;
     const QColor tint = toneColor(banner->tone);
-    banner_->setStyleSheet(QStringLiteral("QFrame#banner { background: rgba(%1,%2,%3,0.13); border-radius: 6px; }")
-                               .arg(tint.red()).arg(tint.green()).arg(tint.blue()));
-    bannerLayout_->addLayout(iconTextLine(banner->icon, qs(banner->text), banner->tone, false));
+    const auto style = QStringLiteral("QFrame#banner { background: rgba(%1,%2,%3,0.13); border-radius: 6px; }")
+                           .arg(tint.red()).arg(tint.green()).arg(tint.blue());
+    // Setting a style sheet restyles the whole frame, even when it is the same one.
+    if (banner_->styleSheet() != style) banner_->setStyleSheet(style);
+    bannerLine_->setIcon(banner->icon, banner->tone);
+    bannerLine_->text()->setText(qs(banner->text));
+    setTone(bannerLine_->text(), banner->tone);
 }
 
 void MenuBarView::refreshConnections() {
@@ -252,7 +270,6 @@ void MenuBarView::refreshConnections() {
 }
 
 void MenuBarView::refreshActivity() {
-    clearLayout(activityLines_);
     std::vector<DownloadProgress> downloads;
     std::vector<TrackedFileSnapshot> waiting;
     for (const auto& config : manager_.connections()()) {
@@ -270,48 +287,42 @@ void MenuBarView::refreshActivity() {
     const auto plan = planActivity(downloads, waiting);
     updateRows(downloads_, downloadRows_, plan.downloads,
                [](const DownloadProgress&) { return std::make_unique<DownloadRow>(); });
-    if (plan.monitoring()) {
-        activityLines_->addWidget(textLabel(ui("Monitoring — no transfers in progress"), Tone::secondary, true));
-        return;
-    }
-    if (plan.moreDownloading > 0)
-        activityLines_->addWidget(textLabel(QStringLiteral("+") + QString::number(plan.moreDownloading) +
-                                           ui(" more downloading..."),
-                                       Tone::secondary, true));
-    for (const auto& file : plan.waiting) {
-        auto* row = new QHBoxLayout;
+    monitoring_->setVisible(plan.monitoring());
+    moreDownloading_->setVisible(plan.moreDownloading > 0);
+    moreDownloading_->setText(QStringLiteral("+") + QString::number(plan.moreDownloading) +
+                              ui(" more downloading..."));
+    for (std::size_t i = 0; i < waitingLines_.size(); ++i) {
+        auto* line = waitingLines_[i];
+        line->setVisible(i < plan.waiting.size());
+        if (i >= plan.waiting.size()) continue;
+        const auto& file = plan.waiting[i];
         const bool settled = file.stableCount >= file.requiredChecks;
-        row->addWidget(iconLabel(settled ? "checkmark.circle.fill" : "circle.dotted", iconSize,
-                                 settled ? Tone::green : Tone::orange));
-        row->addWidget(elidedLabel(qs(file.name), 170), 1);
-        row->addWidget(textLabel(qs(formatSize(file.size)) + QStringLiteral("  ·  ") +
-                                     qs(stabilityText(file.isGrowing, file.stableCount, file.requiredChecks)),
-                                 Tone::secondary, true));
-        activityLines_->addLayout(row);
+        line->setIcon(settled ? "checkmark.circle.fill" : "circle.dotted", settled ? Tone::green : Tone::orange);
+        setElidedText(line->text(0), qs(file.name), 170);
+        line->text(1)->setText(qs(formatSize(file.size)) + QStringLiteral("  ·  ") +
+                               qs(stabilityText(file.isGrowing, file.stableCount, file.requiredChecks)));
     }
-    if (plan.moreWaiting > 0)
-        activityLines_->addWidget(textLabel(QString::number(plan.moreWaiting) + ui(" waiting for stability"),
-                                       Tone::secondary, true));
+    moreWaiting_->setVisible(plan.moreWaiting > 0);
+    moreWaiting_->setText(QString::number(plan.moreWaiting) + ui(" waiting for stability"));
 }
 
 void MenuBarView::refreshRecent() {
-    clearLayout(recent_);
-    int shown = 0;
+    std::size_t shown = 0;
     for (const auto& entry : history_.entries()()) {
+        if (shown == recentLines_.size()) break;
         if (entry.status != TransferStatus::success) continue;
-        auto* row = new QHBoxLayout;
-        row->addWidget(elidedLabel(qs(entry.finalFilename), 190), 1);
-        row->addWidget(textLabel(qs(StatsService::formatBytes(entry.sizeBytes)), Tone::secondary, true));
-        row->addWidget(textLabel(timeText(entry.timestamp), Tone::secondary, true));
-        recent_->addLayout(row);
-        if (++shown == 5) break;
+        auto* line = recentLines_[shown++];
+        setElidedText(line->text(0), qs(entry.finalFilename), 190);
+        line->text(1)->setText(qs(StatsService::formatBytes(entry.sizeBytes)));
+        line->text(2)->setText(timeText(entry.timestamp));
     }
-    if (shown == 0) recent_->addWidget(textLabel(ui("No recent downloads"), Tone::secondary, true));
+    for (std::size_t i = 0; i < recentLines_.size(); ++i) recentLines_[i]->setVisible(i < shown);
+    noRecent_->setVisible(shown == 0);
 }
 
 void MenuBarView::buildStatistics() {
     auto line = [this](const char* icon, const QString& label) {
-        auto* row = iconTextLine(icon, label, std::nullopt, false);
+        auto* row = iconTextLine(icon, textLabel(label), std::nullopt, false);
         auto* value = textLabel({}, Tone::secondary);
         row->addWidget(value);
         statistics_->addLayout(row);
@@ -336,23 +347,30 @@ void MenuBarView::refreshStatistics() {
 }
 
 void MenuBarView::refreshDiskAndNetwork() {
-    clearLayout(diskAndNetwork_);
     const double free = manager_.freeDiskSpaceGB()();
     char figure[32];
     std::snprintf(figure, sizeof figure, "%.1f", free);
-    diskAndNetwork_->addLayout(iconTextLine(free < 5.0 ? "externaldrive.badge.exclamationmark" : "externaldrive",
-                                            QString::fromLatin1(figure) + ui(" GB free"), diskTone(free), true));
+    disk_->setIcon(free < 5.0 ? "externaldrive.badge.exclamationmark" : "externaldrive", diskTone(free));
+    disk_->text()->setText(QString::fromLatin1(figure) + ui(" GB free"));
+    setTone(disk_->text(), diskTone(free));
     const auto& network = manager_.networkType()();
-    diskAndNetwork_->addLayout(iconTextLine(networkIconName(network), qs(networkText(network)), Tone::secondary, true));
+    network_->setIcon(networkIconName(network), Tone::secondary);
+    network_->text()->setText(qs(networkText(network)));
+    setTone(network_->text(), Tone::secondary);
 }
 
 void MenuBarView::refreshButtons() {
     const bool paused = manager_.aggregatePaused()();
-    pauseButton_->setText(paused ? ui("Resume") : ui("Pause"));
-    pauseButton_->setIcon(symbolIcon(paused ? "play.fill" : "pause.fill"));
+    // An icon set again redraws the button: only a changed word brings a new one.
+    if (const QString text = paused ? ui("Resume") : ui("Pause"); pauseButton_->text() != text) {
+        pauseButton_->setText(text);
+        pauseButton_->setIcon(symbolIcon(paused ? "play.fill" : "pause.fill"));
+    }
     const bool muted = !settings_.playSoundOnDownload();
-    soundButton_->setText(muted ? ui("Unmute") : ui("Mute"));
-    soundButton_->setIcon(symbolIcon(muted ? "speaker.slash.fill" : "speaker.wave.2.fill"));
+    if (const QString text = muted ? ui("Unmute") : ui("Mute"); soundButton_->text() != text) {
+        soundButton_->setText(text);
+        soundButton_->setIcon(symbolIcon(muted ? "speaker.slash.fill" : "speaker.wave.2.fill"));
+    }
 }
 
 }  // namespace tarnel

@@ -66,21 +66,27 @@ private:
 
     QLabel* status_ = nullptr;
     QWidget* banner_ = nullptr;
-    QHBoxLayout* bannerLayout_ = nullptr;
+    KeptLine* bannerLine_ = nullptr;
     QVBoxLayout* connections_ = nullptr;
     QLabel* noConnections_ = nullptr;
     std::unordered_map<Uuid, std::unique_ptr<ConnectionRow>> connectionRows_;
     QVBoxLayout* activity_ = nullptr;
     QVBoxLayout* downloads_ = nullptr;  // the rows of `downloadRows_`, at the head of `activity_`
-    QVBoxLayout* activityLines_ = nullptr;  // the rest of `activity_`, made again at each update
     std::unordered_map<Uuid, std::unique_ptr<DownloadRow>> downloadRows_;
+    QLabel* monitoring_ = nullptr;
+    QLabel* moreDownloading_ = nullptr;
+    std::vector<KeptLine*> waitingLines_;  // as many as the section ever shows, hidden when unused
+    QLabel* moreWaiting_ = nullptr;
     QVBoxLayout* recent_ = nullptr;
+    std::vector<KeptLine*> recentLines_;
+    QLabel* noRecent_ = nullptr;
     QVBoxLayout* statistics_ = nullptr;
     QLabel* today_ = nullptr;
     QLabel* allTime_ = nullptr;
     QLabel* lastActivity_ = nullptr;
     QWidget* lastActivityLine_ = nullptr;  // shown once there is a last activity
-    QHBoxLayout* diskAndNetwork_ = nullptr;
+    KeptLine* disk_ = nullptr;
+    KeptLine* network_ = nullptr;
     QPushButton* pauseButton_ = nullptr;
     QPushButton* soundButton_ = nullptr;
     QTimer timeTexts_{this};

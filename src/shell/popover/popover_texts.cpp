@@ -50,7 +50,8 @@ std::string pollIntervalText(double seconds) {
 
 ActivityPlan planActivity(const std::vector<DownloadProgress>& downloads,
                           const std::vector<TrackedFileSnapshot>& waiting) {
-    constexpr std::size_t rows = 3, downloadRows = 2;
+    constexpr std::size_t downloadRows = 2;
+    constexpr auto rows = ActivityPlan::rows;
     ActivityPlan plan;
     const auto shownDownloads = std::min(downloads.size(), downloadRows);
     plan.downloads.assign(downloads.begin(), downloads.begin() + shownDownloads);

@@ -50,6 +50,7 @@ std::string pollIntervalText(double seconds);
 
 // The activity section: at most three rows shared by downloads first, then waiting files.
 struct ActivityPlan {
+    static constexpr std::size_t rows = 3;
     std::vector<DownloadProgress> downloads;  // rows, at most 2
     int moreDownloading = 0;                  // the "+n more downloading..." line, when above 0
     std::vector<TrackedFileSnapshot> waiting;  // rows

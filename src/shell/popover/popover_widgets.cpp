@@ -1,5 +1,6 @@
 #include "shell/popover/popover_widgets.h"
 
+#include <QApplication>
 #include <QFontMetrics>
 #include <QMouseEvent>
 
@@ -18,27 +19,43 @@ QColor toneColor(Tone tone) {
     return {};
 }
 
+namespace {
+QColor colorOf(const QLabel* label, std::optional<Tone> tone) {
+    return tone ? toneColor(*tone) : QApplication::palette(label).color(QPalette::WindowText);
+}
+}  // namespace
+
 QLabel* iconLabel(const char* name, int size, std::optional<Tone> tone) {
     auto* label = new QLabel;
-    const QColor color = tone ? toneColor(*tone) : label->palette().color(QPalette::WindowText);
-    label->setPixmap(tintedPixmap(symbolIcon(name), size, color, label->devicePixelRatioF()));
+    setIcon(label, name, size, tone);
     label->setFixedSize(size, size);
     return label;
 }
 
+void setIcon(QLabel* label, const char* name, int size, std::optional<Tone> tone) {
+    const auto shown = QStringLiteral("%1 %2 %3").arg(QLatin1String(name)).arg(size).arg(tone ? int(*tone) : -1);
+    if (label->property("shownIcon").toString() == shown) return;
+    label->setProperty("shownIcon", shown);
+    label->setPixmap(tintedPixmap(symbolIcon(name), size, colorOf(label, tone), label->devicePixelRatioF()));
+}
+
 QLabel* textLabel(const QString& text, std::optional<Tone> tone, bool small) {
     auto* label = new QLabel(text);
-    if (tone) {
-        auto palette = label->palette();
-        palette.setColor(QPalette::WindowText, toneColor(*tone));
-        label->setPalette(palette);
-    }
+    if (tone) setTone(label, tone);
     if (small) {
         auto font = label->font();
         font.setPointSizeF(font.pointSizeF() * 0.85);
         label->setFont(font);
     }
     return label;
+}
+
+void setTone(QLabel* label, std::optional<Tone> tone) {
+    auto palette = label->palette();
+    const QColor color = colorOf(label, tone);
+    if (palette.color(QPalette::WindowText) == color) return;
+    palette.setColor(QPalette::WindowText, color);
+    label->setPalette(palette);
 }
 
 QLabel* elidedLabel(const QString& text, int width, bool bold) {
@@ -108,6 +125,26 @@ void clearLayout(QLayout* layout) {
         }
         delete item;
     }
+}
+
+KeptLine::KeptLine(int iconSize, int texts, bool smallFirst) : iconSize_(iconSize) {
+    auto* line = new QHBoxLayout(this);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(6);
+    if (iconSize > 0) {
+        icon_ = new QLabel;
+        icon_->setFixedSize(iconSize, iconSize);
+        line->addWidget(icon_);
+    }
+    for (int i = 0; i < texts; ++i) {
+        texts_.push_back(i == 0 ? textLabel({}, std::nullopt, smallFirst) : textLabel({}, Tone::secondary, true));
+        line->addWidget(texts_.back(), i == 0 && texts > 1 ? 1 : 0);
+    }
+    if (texts == 1) line->addStretch();
+}
+
+void KeptLine::setIcon(const char* name, std::optional<Tone> tone) {
+    tarnel::setIcon(icon_, name, iconSize_, tone);
 }
 
 KeptRow::~KeptRow() {

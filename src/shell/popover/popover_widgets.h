@@ -18,7 +18,11 @@ namespace tarnel {
 QColor toneColor(Tone tone);
 // The icon `name` at `size` pixels, in `tone`'s colour (or the text colour without one).
 QLabel* iconLabel(const char* name, int size, std::optional<Tone> tone = std::nullopt);
+// Shows that icon on `label`, drawn only when it is not the one shown already.
+void setIcon(QLabel* label, const char* name, int size, std::optional<Tone> tone);
 QLabel* textLabel(const QString& text, std::optional<Tone> tone = std::nullopt, bool small = false);
+// The text in `tone`'s colour, or in the text colour without one.
+void setTone(QLabel* label, std::optional<Tone> tone);
 // Cut with "…" to fit `width` pixels; the whole text is the tool tip.
 QLabel* elidedLabel(const QString& text, int width, bool bold = false);
 void setElidedText(QLabel* label, const QString& text, int width);
@@ -45,6 +49,23 @@ public:
 
 private:
     QWidget* widget_;
+};
+
+// A line of an icon and texts, made once and kept: the popover updates it in place, and setting
+// what it already shows changes nothing. The first text takes the room left; the others follow
+// it in small secondary type.
+class KeptLine final : public QWidget {
+public:
+    // `iconSize` 0 makes a line without an icon.
+    KeptLine(int iconSize, int texts, bool smallFirst);
+
+    void setIcon(const char* name, std::optional<Tone> tone);
+    QLabel* text(int index = 0) const { return texts_[index]; }
+
+private:
+    int iconSize_;
+    QLabel* icon_ = nullptr;
+    std::vector<QLabel*> texts_;
 };
 
 // A row that calls `onClick` when clicked anywhere outside its own buttons.

@@ -6,6 +6,7 @@
 
 #include "shell/bridge/qt_text.h"
 #include "shell/icons/symbol_icon.h"
+#include "shell/tray/tray_host.h"
 
 namespace tarnel {
 
@@ -42,28 +43,33 @@ StatusIcon::StatusIcon(TrayActions actions, std::function<void()> onActivated)
     menu_.addSeparator();
     connect(menu_.addAction(ui("Quit")), &QAction::triggered, this,
             [quit = actions.quit] { quit(); });
-    tray_.setContextMenu(&menu_);
-    tray_.setToolTip(QStringLiteral("Tarnel"));
-    connect(&tray_, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason why) {
-        if (why == QSystemTrayIcon::Trigger || why == QSystemTrayIcon::DoubleClick) onActivated_();
-    });
 
     frameClock_.setInterval(1000 / framesPerSecond);
     connect(&frameClock_, &QTimer::timeout, this, &StatusIcon::renderSyncFrame);
 
     setIcon(artworkIcon("Navbar-Basic"));
-    if (QSystemTrayIcon::isSystemTrayAvailable())
-        tray_.show();
+    if (trayHostExists())
+        showInTray();
     else
         waitForTray();
+}
+
+void StatusIcon::showInTray() {
+    tray_ = std::make_unique<QSystemTrayIcon>(current_);
+    tray_->setContextMenu(&menu_);
+    tray_->setToolTip(QStringLiteral("Tarnel"));
+    connect(tray_.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason why) {
+        if (why == QSystemTrayIcon::Trigger || why == QSystemTrayIcon::DoubleClick) onActivated_();
+    });
+    tray_->show();
 }
 
 void StatusIcon::waitForTray() {
     trayWatch_.setInterval(2000);
     connect(&trayWatch_, &QTimer::timeout, this, [this] {
-        if (!QSystemTrayIcon::isSystemTrayAvailable()) return;
+        if (!trayHostExists()) return;
         trayWatch_.stop();
-        tray_.show();
+        showInTray();
         Q_EMIT trayAppeared();
     });
     trayWatch_.start();
@@ -72,7 +78,7 @@ void StatusIcon::waitForTray() {
 void StatusIcon::setIcon(const QIcon& icon) {
     if (icon.isNull()) return;  // missing artwork leaves the icon as it was
     current_ = icon;
-    tray_.setIcon(icon);
+    if (tray_) tray_->setIcon(icon);
 }
 
 void StatusIcon::setPaused(bool paused) {

@@ -7,6 +7,7 @@
 #include <QSystemTrayIcon>
 #include <QTimer>
 #include <functional>
+#include <memory>
 
 #include "shell/tray/status_icon_rules.h"
 
@@ -39,8 +40,8 @@ public:
     bool isAnimating() const { return frameClock_.isActive(); }
     double syncAnimationAngle() const { return syncAnimationAngle_; }
     // The icon's rectangle on screen; empty where the tray does not tell.
-    QRect geometry() const { return tray_.geometry(); }
-    bool isVisible() const { return tray_.isVisible(); }
+    QRect geometry() const { return tray_ ? tray_->geometry() : QRect(); }
+    bool isVisible() const { return tray_ && tray_->isVisible(); }
     // The label of the menu's pause entry follows the fleet: "Pause" or "Resume".
     void setPaused(bool paused);
     const QIcon& currentIcon() const { return current_; }
@@ -52,8 +53,10 @@ Q_SIGNALS:
 private:
     void setIcon(const QIcon& icon);
     void waitForTray();
+    // Made only once a tray exists: Qt settles how it reaches the tray when the icon is made.
+    void showInTray();
 
-    QSystemTrayIcon tray_;
+    std::unique_ptr<QSystemTrayIcon> tray_;
     QMenu menu_;
     QAction* pauseAction_ = nullptr;
     QTimer frameClock_;
