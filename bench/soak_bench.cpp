@@ -5,7 +5,7 @@
 // counted: arrived once and whole, none gone from the server without its copy, no temporary file
 // left behind, and Tarnel never ended by itself. Exits 1 on any violation.
 //
-//     soak_bench [--minutes N] [--seed S] [--keep]
+//     soak_bench [--minutes N] [--seed S] [--keep] [--only kill|term|server|cut|stall|full]
 #include <signal.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
@@ -201,10 +201,25 @@ const char* faultName(Fault f) {
     return "";
 }
 
+constexpr Fault allFaults[] = {Fault::killTarnel,      Fault::stopTarnel,       Fault::restartServer,
+                               Fault::dropConnections, Fault::stallConnections, Fault::fillDisk};
+// The word that picks one kind alone on the command line.
+const char* faultKey(Fault f) {
+    constexpr const char* keys[] = {"kill", "term", "server", "cut", "stall", "full"};
+    return keys[static_cast<int>(f)];
+}
+
+std::optional<Fault> faultNamed(const std::string& key) {
+    for (Fault f : allFaults)
+        if (key == faultKey(f)) return f;
+    return std::nullopt;
+}
+
 struct Options {
     double minutes = 5;
     std::uint64_t seed = static_cast<std::uint64_t>(time(nullptr));
     bool keep = false;
+    std::vector<Fault> faults{std::begin(allFaults), std::end(allFaults)};
 };
 
 class Soak {
@@ -213,8 +228,9 @@ public:
         : options_(options),
           random_(options.seed),
           dir_(fs::temp_directory_path() / ("tarnel-soak-" + Uuid::random().toString())),
-          // Room for everything the run brings and the filler's share: about 50 MB a minute.
-          disk_(dir_ / "destination", 256 + static_cast<int>(options.minutes * 80), options.keep),
+          // Room for everything the run brings, about 100 MB a minute, and then some: only the
+          // filler may fill it.
+          disk_(dir_ / "destination", 512 + static_cast<int>(options.minutes * 200), options.keep),
           sftpProxy_(sftp_.connectionConfig().port),
           ftpProxy_(ftp_.connectionConfig().port),
           tarnel_(dir_ / "home") {
@@ -325,9 +341,15 @@ private:
         lastStatus_ = Clock::now();
         const auto status = TarnelProcess(dir_ / "home").run({"--status"});
         ++statusAsked_;
-        if (status.exitCode != 0 && status.exitCode != 1)
+        if (status.exitCode != 0 && status.exitCode != 1) {
             violation("tarnel --status answered " + std::to_string(status.exitCode) + ": " +
                       status.out + status.err);
+            // Where every thread of the silent process stands, for whoever looks into it.
+            const fs::path stacks = dir_ / ("stacks-" + std::to_string(statusAsked_) + ".txt");
+            std::ofstream(stacks) << capture({"gdb", "-p", std::to_string(tarnel_.pid()), "-batch",
+                                              "-ex", "thread apply all bt"});
+            say_() << "its threads' stacks: " << stacks << "\n";
+        }
     }
 
     std::chrono::milliseconds between(int lowMs, int highMs) {
@@ -343,9 +365,8 @@ private:
             if (ongoingUntil_ && Clock::now() >= *ongoingUntil_) endOngoingFaults();
             if (Clock::now() >= next && !ongoingUntil_) {
                 if (round.empty()) {
-                    round = {Fault::killTarnel, Fault::stopTarnel, Fault::restartServer,
-                             Fault::dropConnections, Fault::stallConnections};
-                    if (disk_.mounted()) round.push_back(Fault::fillDisk);
+                    for (Fault f : options_.faults)
+                        if (f != Fault::fillDisk || disk_.mounted()) round.push_back(f);
                     std::shuffle(round.begin(), round.end(), random_);
                 }
                 inject(round.back());
@@ -532,8 +553,11 @@ int main(int argc, char** argv) {
         if (arg == "--minutes" && i + 1 < argc) options.minutes = std::stod(argv[++i]);
         else if (arg == "--seed" && i + 1 < argc) options.seed = std::stoull(argv[++i]);
         else if (arg == "--keep") options.keep = true;
+        else if (const auto f = arg == "--only" && i + 1 < argc ? bench::faultNamed(argv[++i]) : std::nullopt)
+            options.faults = {*f};
         else {
-            std::cerr << "usage: soak_bench [--minutes N] [--seed S] [--keep]\n";
+            std::cerr << "usage: soak_bench [--minutes N] [--seed S] [--keep] "
+                         "[--only kill|term|server|cut|stall|full]\n";
             return 2;
         }
     }

@@ -30,6 +30,7 @@ public:
     // As wait(), without waiting: nullopt while it runs.
     std::optional<int> exited();
     bool running() const { return pid_ > 0; }
+    pid_t pid() const { return pid_; }
 
     std::string logText() const;  // the log file
     std::filesystem::path settingsFile() const;
