@@ -439,8 +439,15 @@ private:
         ongoingUntil_.reset();
     }
 
+    // A file whose delete failed stays on the server by design, counted as downloaded.
+    static bool keptAfterFailedDelete(const std::string& log, const std::string& name) {
+        return log.find("delete failed: " + name + " ") != std::string::npos;
+    }
+
     bool allArrived(const std::map<std::string, Written>& manifest) const {
-        if (!filesIn(moveFolder_).empty()) return false;
+        const std::string log = tarnel_.logText();
+        for (const auto& name : filesIn(moveFolder_))
+            if (!keptAfterFailedDelete(log, name)) return false;
         for (const auto& [name, written] : manifest)
             if (!fs::exists(localFolder(written) / name)) return false;
         return true;
@@ -486,9 +493,8 @@ private:
             } else {
                 ++whole;
             }
-            // A file whose delete failed stays on the server by design, counted as downloaded.
             if (written.moveMode && onServer) {
-                if (log.find("delete failed: " + name + " ") == std::string::npos)
+                if (!keptAfterFailedDelete(log, name))
                     violation(name + ": still on the server in move mode");
                 else
                     ++leftAfterFailedDelete;
