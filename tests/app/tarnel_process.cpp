@@ -61,11 +61,24 @@ void TarnelProcess::signal(int signo) {
     if (pid_ > 0) ::kill(pid_, signo);
 }
 
+namespace {
+int exitCodeOf(int status) {
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+}  // namespace
+
 int TarnelProcess::wait() {
     int status = 0;
     ::waitpid(pid_, &status, 0);
     pid_ = -1;
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    return exitCodeOf(status);
+}
+
+std::optional<int> TarnelProcess::exited() {
+    int status = 0;
+    if (pid_ <= 0 || ::waitpid(pid_, &status, WNOHANG) != pid_) return std::nullopt;
+    pid_ = -1;
+    return exitCodeOf(status);
 }
 
 std::string TarnelProcess::logText() const {

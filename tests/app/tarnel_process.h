@@ -27,7 +27,10 @@ public:
     void start(const std::vector<std::string>& args);
     void signal(int signo);
     int wait();  // exit code, or 128 + signal
+    // As wait(), without waiting: nullopt while it runs.
+    std::optional<int> exited();
     bool running() const { return pid_ > 0; }
+    pid_t pid() const { return pid_; }
 
     std::string logText() const;  // the log file
     std::filesystem::path settingsFile() const;

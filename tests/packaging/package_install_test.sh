@@ -48,8 +48,21 @@ work="$build/packaging-test"
 rm -rf "$work"
 mkdir "$work"
 headless=
+cgroups=()
 cleanup() {
     [ -z "$headless" ] || kill -KILL "$headless" 2>/dev/null || true
+    # What the user manager left: its processes, then its folders, deepest first.
+    local cgroup
+    for cgroup in "${cgroups[@]}"; do
+        find "$cgroup" -name cgroup.procs -exec cat {} + 2>/dev/null | xargs -r kill -KILL 2>/dev/null || true
+    done
+    for cgroup in "${cgroups[@]}"; do
+        for _ in $(seq 50); do
+            find "$cgroup" -depth -type d -exec rmdir {} + 2>/dev/null || true
+            [ -d "$cgroup" ] || break
+            sleep 0.1
+        done
+    done
     if [ -e "$marker" ]; then dpkg_waiting --purge tarnel && rm -f "$marker"; fi
     rm -rf "$work"
 }
@@ -122,6 +135,25 @@ enable=$(systemctl --root="$work/root" --global enable tarnel-headless.service 2
     fail "systemctl enable: $enable"
 [ -L "$work/root/etc/systemd/user/default.target.wants/tarnel-headless.service" ] ||
     fail "enabling does not start the unit with the user's session"
+
+# A real systemd --user runs the installed unit, in a cgroup of its own: the two hierarchies of
+# a hybrid layout, or the one of cgroup v2.
+if [ -e /sys/fs/cgroup/cgroup.procs ]; then
+    cgroups=("/sys/fs/cgroup/tarnel-package-test-$$")
+else
+    for hierarchy in systemd unified; do
+        [ ! -d "/sys/fs/cgroup/$hierarchy" ] || cgroups+=("/sys/fs/cgroup/$hierarchy/tarnel-package-test-$$")
+    done
+fi
+if [ ${#cgroups[@]} -gt 0 ] && mkdir "${cgroups[@]}" 2>"$work/cgroup.err"; then
+    status=0
+    unshare -m --propagation private "$(dirname "$0")/user_manager_test.sh" "$work/user" "${cgroups[@]}" ||
+        status=$?
+    [ "$status" = 0 ] || [ "$status" = 77 ] || fail "the unit under systemd --user"
+else
+    echo "NOTE: no cgroup of our own for systemd --user here: $(cat "$work/cgroup.err")"
+    cgroups=()
+fi
 
 # The desktop entry starts the installed program and names an installed icon.
 entry=/usr/share/applications/tarnel.desktop

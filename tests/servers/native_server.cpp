@@ -141,17 +141,20 @@ NativeServer::NativeServer(NativeServerKind kind, int sessionsPerAddress)
     fs::create_directories(stateDir_ / "empty");
     port_ = freePort();
     writeConfig();
+    start();
+}
 
+void NativeServer::start() {
     const std::string conf = (stateDir_ / "server.conf").string();
-    std::vector<std::string> args{binaryOf(kind).string()};
-    if (kind == NativeServerKind::vsftpd) {
+    std::vector<std::string> args{binaryOf(kind_).string()};
+    if (kind_ == NativeServerKind::vsftpd) {
         args.push_back(conf);
-    } else if (isProftpd(kind)) {
+    } else if (isProftpd(kind_)) {
         args.insert(args.end(), {"-n", "-c", conf});
-    } else if (kind == NativeServerKind::pureFtpd) {
+    } else if (kind_ == NativeServerKind::pureFtpd) {
         // Unix accounts, no anonymous login, no chroot (that takes -A), in the foreground.
         const std::string perAddress =
-            std::to_string(sessionsPerAddress > 0 ? sessionsPerAddress : 50);
+            std::to_string(sessionsPerAddress_ > 0 ? sessionsPerAddress_ : 50);
         args.insert(args.end(), {"-S", "127.0.0.1," + std::to_string(port_), "-l", "unix", "-E",
                                  "-H", "-c", "50", "-C", perAddress});
     } else {
@@ -164,7 +167,7 @@ NativeServer::NativeServer(NativeServerKind kind, int sessionsPerAddress)
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, 1, out.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    posix_spawn_file_actions_addopen(&actions, 1, out.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0644);
     posix_spawn_file_actions_adddup2(&actions, 1, 2);
     const int rc = posix_spawn(&pid_, argv[0], &actions, nullptr, argv.data(), environ);
     posix_spawn_file_actions_destroy(&actions);
@@ -175,18 +178,23 @@ NativeServer::NativeServer(NativeServerKind kind, int sessionsPerAddress)
         int status = 0;
         if (::waitpid(pid_, &status, WNOHANG) == pid_ || std::chrono::steady_clock::now() > until) {
             pid_ = -1;
-            throw std::runtime_error(std::string(nativeServerName(kind)) +
+            throw std::runtime_error(std::string(nativeServerName(kind_)) +
                                      " did not start: " + readFile(out));
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
 }
 
-NativeServer::~NativeServer() {
+void NativeServer::stop() {
     if (pid_ > 0) {
         ::kill(pid_, SIGTERM);
         ::waitpid(pid_, nullptr, 0);
+        pid_ = -1;
     }
+}
+
+NativeServer::~NativeServer() {
+    stop();
     std::error_code ignored;
     fs::remove_all(stateDir_, ignored);
 }

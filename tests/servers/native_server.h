@@ -43,6 +43,11 @@ public:
     // Gives everything below `path` to the test user, so the server may delete it.
     static void handOver(const std::filesystem::path& path);
 
+    // The listener goes away (sessions already open live on, as each runs in its own process)
+    // and comes back on the same port with the same keys and certificate.
+    void stop();
+    void start();
+
     // protocol, host, port, user, password (self-signed certificates allowed); remotePath "/",
     // pollInterval 1.
     ConnectionConfig connectionConfig() const;
