@@ -2,6 +2,8 @@
 
 #include <curl/curl.h>
 
+#include <string>
+
 namespace tarnel {
 
 // One server session: a libcurl easy handle and the multi handle that runs its operations
@@ -20,11 +22,16 @@ public:
     CURLM* multi() const { return multi_; }
 
     // Clears every option of the last operation; the open connection stays.
-    void reset() { curl_easy_reset(easy_); }
+    void reset();
+
+    // libcurl's own words for the last operation's failure ("Failure establishing ssh session:
+    // -43, Failed getting banner"), which say more than its code's text; empty when none.
+    std::string errorText() const { return errorText_; }
 
 private:
     CURL* easy_;
     CURLM* multi_;
+    char errorText_[CURL_ERROR_SIZE] = {};
 };
 
 }  // namespace tarnel

@@ -197,12 +197,12 @@ struct CurlTransferClient::Operation {
     std::optional<ProgressContext> progress;
 };
 
-FTPError CurlTransferClient::failure(CURLcode code) const {
+FTPError CurlTransferClient::failure(CURLcode code, const std::string& detail) const {
     if (code == CURLE_PEER_FAILED_VERIFICATION &&
         config_.transferProtocol == TransferProtocol::sftp) {
         return FTPError::hostKeyChanged(config_.host, knownHostsFile_);
     }
-    return FTPError::curlExitCode(code, curl_easy_strerror(code));
+    return FTPError::curlExitCode(code, detail.empty() ? curl_easy_strerror(code) : detail);
 }
 
 long CurlTransferClient::countConnections(CURL* handle) {
@@ -258,6 +258,8 @@ void CurlTransferClient::begin(std::shared_ptr<Operation> op) {
 
 void CurlTransferClient::end(const std::shared_ptr<Operation>& op, CURLcode code) {
     CURL* easy = op->lease->get()->easy();
+    // Read now: once back in the pool, the session may serve another operation.
+    const std::string detail = op->lease->get()->errorText();
     const long opened = countConnections(easy);
     long reply = 0;
     curl_easy_getinfo(easy, CURLINFO_RESPONSE_CODE, &reply);
@@ -274,7 +276,7 @@ void CurlTransferClient::end(const std::shared_ptr<Operation>& op, CURLcode code
     std::exception_ptr error;
     try {
         if (op->finish) op->finish(*op, code);
-        if (code != CURLE_OK) throw failure(code);
+        if (code != CURLE_OK) throw failure(code, detail);
     } catch (...) {
         error = std::current_exception();
     }
@@ -585,7 +587,7 @@ void CurlTransferClient::probeConnection() {
     countConnections(h);
     // A refused login still proves that something answers on the port.
     if (code != CURLE_OK && code != CURLE_LOGIN_DENIED) {
-        throw failure(code);
+        throw failure(code, session.errorText());
     }
 }
 

@@ -165,7 +165,8 @@ private:
     void startRemoveItem(const std::string& folder, const std::string& item, const char* ftpVerb,
                          const char* sftpVerb, Completion done);
     // The FTPError users read for `code`.
-    FTPError failure(CURLcode code) const;
+    // `detail`: the session's own words for the failure, when it has any.
+    FTPError failure(CURLcode code, const std::string& detail = {}) const;
 
     ConnectionConfig config_;
     std::filesystem::path knownHostsFile_;

@@ -1,6 +1,12 @@
 #include "transfer/ftp_service.h"
 
 #include <algorithm>
+#include <thread>
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include <gtest/gtest.h>
 
@@ -231,6 +237,31 @@ TEST_F(ConnectionTest, eachFaultStopsAtItsOwnRow) {
     EXPECT_EQ(unknownHost.statuses(),
               (std::vector<S>{S::failure, S::pending, S::pending, S::pending, S::pending}));
     EXPECT_EQ(unknownHost.last[0].detail, "Host 'no-such-host.invalid' not found");
+
+    // libcurl's own words, not only its code's: a port that hangs up on SSH at once.
+    const int listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t length = sizeof address;
+    ASSERT_EQ(::bind(listener, reinterpret_cast<sockaddr*>(&address), length), 0);
+    ASSERT_EQ(::listen(listener, 4), 0);
+    ::getsockname(listener, reinterpret_cast<sockaddr*>(&address), &length);
+    std::thread hangsUp([listener] {
+        for (int fd; (fd = ::accept(listener, nullptr, nullptr)) >= 0;) ::close(fd);
+    });
+    config = server->connectionConfig();
+    config.transferProtocol = TransferProtocol::sftp;
+    config.port = ntohs(address.sin_port);
+    try {
+        makeService(config).listFiles();
+        ADD_FAILURE() << "no error";
+    } catch (const FTPError& e) {
+        EXPECT_NE(std::string(e.what()).find("ssh session"), std::string::npos) << e.what();
+    }
+    ::shutdown(listener, SHUT_RDWR);
+    hangsUp.join();
+    ::close(listener);
 
     server->stop();
     Rows noServer;
