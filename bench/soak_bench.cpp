@@ -1,11 +1,11 @@
 // Tarnel headless for minutes on end against servers as Debian ships them (OpenSSH in move mode,
-// vsftpd in copy mode), while files of many sizes keep arriving and faults strike on a seeded
+// vsftpd in copy mode), while files of many sizes keep arriving and faults strike on a drawn
 // schedule: Tarnel killed or stopped and started again, a server restarted, connections cut or
 // held by a relay, the destination file system full. Then a quiet phase, and every file is
 // counted: arrived once and whole, none gone from the server without its copy, no temporary file
 // left behind, and Tarnel never ended by itself. Exits 1 on any violation.
 //
-//     soak_bench [--minutes N] [--seed S] [--keep] [--only kill|term|server|cut|stall|full]
+//     soak_bench [--minutes N] [--draw N] [--keep] [--only kill|term|server|cut|stall|full]
 #include <signal.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
@@ -78,10 +78,10 @@ struct Written {
 // whole from a staging folder, some written in place in chunks as a slow uploader does.
 class Feeder {
 public:
-    Feeder(fs::path moveFolder, fs::path copyFolder, fs::path staging, std::uint64_t seed)
+    Feeder(fs::path moveFolder, fs::path copyFolder, fs::path staging, std::uint64_t draw)
         : folders_{std::move(copyFolder), std::move(moveFolder)},
           staging_(std::move(staging)),
-          random_(seed) {}
+          random_(draw) {}
 
     void run(std::stop_token stop) {
         for (int n = 1; !stop.stop_requested(); ++n) {
@@ -217,7 +217,7 @@ std::optional<Fault> faultNamed(const std::string& key) {
 
 struct Options {
     double minutes = 5;
-    std::uint64_t seed = static_cast<std::uint64_t>(time(nullptr));
+    std::uint64_t draw = static_cast<std::uint64_t>(time(nullptr));
     bool keep = false;
     std::vector<Fault> faults{std::begin(allFaults), std::end(allFaults)};
 };
@@ -226,7 +226,7 @@ class Soak {
 public:
     explicit Soak(const Options& options)
         : options_(options),
-          random_(options.seed),
+          random_(options.draw),
           dir_(fs::temp_directory_path() / ("tarnel-soak-" + Uuid::random().toString())),
           // Room for everything the run brings, about 100 MB a minute, and then some: only the
           // filler may fill it.
@@ -247,14 +247,14 @@ public:
     }
 
     int run() {
-        say_() << "seed " << options_.seed << ", " << options_.minutes << " minutes of faults, work in "
+        say_() << "draw " << options_.draw << ", " << options_.minutes << " minutes of faults, work in "
                << dir_ << "\n";
         if (!disk_.mounted())
             say_() << "no tmpfs could be mounted here: the destination never fills\n";
         configure();
         startTarnel();
 
-        Feeder feeder(moveFolder_, copyFolder_, staging_, options_.seed + 1);
+        Feeder feeder(moveFolder_, copyFolder_, staging_, options_.draw + 1);
         std::jthread feeding([&](std::stop_token stop) { feeder.run(stop); });
         strike(Clock::now() + std::chrono::duration_cast<Clock::duration>(
                                   std::chrono::duration<double>(options_.minutes * 60)));
@@ -356,7 +356,7 @@ private:
         return std::chrono::milliseconds(std::uniform_int_distribution<int>(lowMs, highMs)(random_));
     }
 
-    // Faults in rounds: each kind once a round, in a seeded order, 8 to 25 seconds apart.
+    // Faults in rounds: each kind once a round, in an order drawn from --draw, 8 to 25 seconds apart.
     void strike(Clock::time_point until) {
         std::vector<Fault> round;
         auto next = Clock::now() + between(8000, 25000);
@@ -514,7 +514,7 @@ private:
                     violation(std::string(mode) + "/" + name + ": arrived twice or unknown");
                 }
 
-        std::cout << "\nseed " << options_.seed << "; faults injected:\n";
+        std::cout << "\ndraw " << options_.draw << "; faults injected:\n";
         for (const auto& [fault, count] : injected_)
             std::cout << "  " << count << " x " << faultName(fault) << "\n";
         std::cout << "Tarnel started " << starts_ << " times; asked --status " << statusAsked_
@@ -557,12 +557,12 @@ int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         const std::string arg = argv[i];
         if (arg == "--minutes" && i + 1 < argc) options.minutes = std::stod(argv[++i]);
-        else if (arg == "--seed" && i + 1 < argc) options.seed = std::stoull(argv[++i]);
+        else if (arg == "--draw" && i + 1 < argc) options.draw = std::stoull(argv[++i]);
         else if (arg == "--keep") options.keep = true;
         else if (const auto f = arg == "--only" && i + 1 < argc ? bench::faultNamed(argv[++i]) : std::nullopt)
             options.faults = {*f};
         else {
-            std::cerr << "usage: soak_bench [--minutes N] [--seed S] [--keep] "
+            std::cerr << "usage: soak_bench [--minutes N] [--draw N] [--keep] "
                          "[--only kill|term|server|cut|stall|full]\n";
             return 2;
         }
