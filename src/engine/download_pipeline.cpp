@@ -363,7 +363,9 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         // Read before placing: nothing may wait between placing a file and booking it, or a quit
         // meanwhile would leave a moved file placed, unbooked and still on the server.
         std::optional<std::string> md5;
-        if (!verdict.algorithm && config_.checksumVerification)
+        if (!verdict.localMD5.empty())
+            md5 = verdict.localMD5;
+        else if (!verdict.algorithm && config_.checksumVerification)
             md5 = co_await computeMD5(services_.runtime, tempPath);
 
         // A file that stays on the server keeps its record, marked placed, until its booking is

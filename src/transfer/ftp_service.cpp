@@ -227,7 +227,14 @@ void FTPService::startDownloadFile(const std::string& name, const std::filesyste
             const auto query = checksumQuery(knownFeatures(), remoteItemName(source));
             if (!query) {
                 tellNoChecksum();
-                client_->startDownload(source, to, resumeFrom, std::move(onProgress), ended());
+                // The MD5 the log gives such a file, taken while it is written: no second read.
+                auto answer = std::make_shared<DownloadChecksum>();
+                client_->startDownload(source, to, resumeFrom, std::move(onProgress),
+                                       ChecksumQuery{DigestAlgorithm::md5, {}}, answer,
+                                       ended([answer, verdict]() -> std::exception_ptr {
+                                           verdict->localMD5 = answer->localDigest;
+                                           return nullptr;
+                                       }));
                 return;
             }
             auto answer = std::make_shared<DownloadChecksum>();

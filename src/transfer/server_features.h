@@ -41,6 +41,8 @@ struct ChecksumVerdict {
     std::string digest;
     // The server offers a checksum, but its reply for this file held none: that reply.
     std::string unanswered;
+    // Where the server offers no checksum: the file's MD5, taken as its bytes were written.
+    std::string localMD5;
 };
 
 // The digest of `algorithm` in the last reply of `replies`, lower case; nullopt if that reply
