@@ -17,6 +17,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <future>
 #include <iostream>
 #include <map>
 #include <mutex>
@@ -43,6 +44,9 @@ using std::chrono::seconds;
 using testing::NativeServer;
 using testing::NativeServerKind;
 using testing::TarnelProcess;
+
+// A fleet that takes longer than this to say how it is doing is caught in the act.
+constexpr std::chrono::seconds lateAnswer{3};
 
 // Regular files directly in `folder`, by name.
 std::vector<std::string> filesIn(const fs::path& folder) {
@@ -336,20 +340,29 @@ private:
             startTarnel();
             return;
         }
-        if (Clock::now() - startedAt_ < seconds(15) || Clock::now() - lastStatus_ < seconds(30))
+        if (Clock::now() - startedAt_ < seconds(3) || Clock::now() - lastStatus_ < seconds(5))
             return;
         lastStatus_ = Clock::now();
-        const auto status = TarnelProcess(dir_ / "home").run({"--status"});
         ++statusAsked_;
-        if (status.exitCode != 0 && status.exitCode != 1) {
+        // Asked aside, so that a late answer is caught while the process still stands still.
+        auto asking = std::async(std::launch::async,
+                                 [home = dir_ / "home"] { return TarnelProcess(home).run({"--status"}); });
+        std::optional<fs::path> stacks;
+        if (asking.wait_for(lateAnswer) == std::future_status::timeout) {
+            // Where every thread of the silent process stands, for whoever looks into it.
+            stacks = dir_ / ("stacks-" + std::to_string(statusAsked_) + ".txt");
+            std::ofstream(*stacks) << capture({"gdb", "-p", std::to_string(tarnel_.pid()), "-batch",
+                                               "-ex", "thread apply all bt"});
+        }
+        const auto status = asking.get();
+        const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - lastStatus_);
+        slowestAnswer_ = std::max(slowestAnswer_, took);
+        if (status.exitCode != 0 && status.exitCode != 1)
             violation("tarnel --status answered " + std::to_string(status.exitCode) + ": " +
                       status.out + status.err);
-            // Where every thread of the silent process stands, for whoever looks into it.
-            const fs::path stacks = dir_ / ("stacks-" + std::to_string(statusAsked_) + ".txt");
-            std::ofstream(stacks) << capture({"gdb", "-p", std::to_string(tarnel_.pid()), "-batch",
-                                              "-ex", "thread apply all bt"});
-            say_() << "its threads' stacks: " << stacks << "\n";
-        }
+        else if (stacks)
+            say_() << "tarnel --status took " << took.count() << " ms\n";
+        if (stacks) say_() << "its threads' stacks while it was silent: " << *stacks << "\n";
     }
 
     std::chrono::milliseconds between(int lowMs, int highMs) {
@@ -518,7 +531,7 @@ private:
         for (const auto& [fault, count] : injected_)
             std::cout << "  " << count << " x " << faultName(fault) << "\n";
         std::cout << "Tarnel started " << starts_ << " times; asked --status " << statusAsked_
-                  << " times\nfiles written " << manifest.size() << " (" << moved << " move mode, "
+                  << " times, slowest answer " << slowestAnswer_.count() << " ms\nfiles written " << manifest.size() << " (" << moved << " move mode, "
                   << manifest.size() - moved << " copy mode), " << bytes / 1e6 << " MB\n"
                   << "files checked whole and once: " << whole
                   << "\nmove-mode files left on the server after a failed delete: "
@@ -546,6 +559,7 @@ private:
     std::vector<std::string> violations_;
     int starts_ = 0;
     int statusAsked_ = 0;
+    std::chrono::milliseconds slowestAnswer_{0};
 };
 
 }  // namespace
