@@ -12,14 +12,6 @@
             <translation> GB lliures</translation>
         </message>
         <message>
-            <source> consecutive failures</source>
-            <translation> errors consecutius</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> fitxers o més</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>La suma de verificació %@ no coincideix: el servidor indica %@, la baixada dona %@. El fitxer no s'ha col·locat i es queda al servidor; es tornarà a baixar.</translation>
         </message>
@@ -222,9 +214,12 @@
             <source>Advanced Options</source>
             <translation>Opcions avançades</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Després de </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Després de %n error</numerusform>
+                <numerusform>Després de %n errors consecutius</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -850,9 +845,12 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Només queden %@ GB d'espai de disc. Allibereu espai per continuar baixant.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Només si hi ha </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Només si hi ha %n fitxer o més</numerusform>
+                <numerusform>Només si hi ha %n fitxers o més</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>

@@ -12,14 +12,6 @@
             <translation> GB frei</translation>
         </message>
         <message>
-            <source> consecutive failures</source>
-            <translation> aufeinanderfolgenden Fehlschlägen</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> Dateien</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>%@-Prüfsumme stimmt nicht überein: Der Server meldet %@, der Download ergibt %@. Die Datei wurde nicht abgelegt und bleibt auf dem Server; sie wird erneut heruntergeladen.</translation>
         </message>
@@ -222,9 +214,12 @@
             <source>Advanced Options</source>
             <translation>Erweiterte Optionen</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Nach </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Nach %n Fehlschlag</numerusform>
+                <numerusform>Nach %n aufeinanderfolgenden Fehlschlägen</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -850,9 +845,12 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Nur noch %@ GB Speicherplatz frei. Geben Sie Speicherplatz frei, um weiter herunterzuladen.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Nur bei mindestens </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Nur bei mindestens %n Datei</numerusform>
+                <numerusform>Nur bei mindestens %n Dateien</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>

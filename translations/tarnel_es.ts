@@ -12,14 +12,6 @@
             <translation> GB libres</translation>
         </message>
         <message>
-            <source> consecutive failures</source>
-            <translation> fallos consecutivos</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> archivos o más</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>La suma de comprobación %@ no coincide: el servidor indica %@, la descarga da %@. El archivo no se ha colocado y permanece en el servidor; se volverá a descargar.</translation>
         </message>
@@ -222,9 +214,12 @@
             <source>Advanced Options</source>
             <translation>Opciones avanzadas</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Tras </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Tras %n fallo</numerusform>
+                <numerusform>Tras %n fallos consecutivos</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -850,9 +845,12 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Solo quedan %@ GB de espacio en disco. Libere espacio para seguir descargando.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Solo si hay </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Solo si hay %n archivo o más</numerusform>
+                <numerusform>Solo si hay %n archivos o más</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>

@@ -12,14 +12,6 @@
             <translation> Go libres</translation>
         </message>
         <message>
-            <source> consecutive failures</source>
-            <translation> échecs consécutifs</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> fichiers</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>Somme de contrôle %@ différente : le serveur indique %@, le téléchargement donne %@. Le fichier n'a pas été placé et reste sur le serveur ; il sera téléchargé à nouveau.</translation>
         </message>
@@ -222,9 +214,12 @@
             <source>Advanced Options</source>
             <translation>Options avancées</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Après </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Après %n échec</numerusform>
+                <numerusform>Après %n échecs consécutifs</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -850,9 +845,12 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Il ne reste que %@ Go d'espace disque. Libérez de l'espace pour continuer les téléchargements.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Seulement à partir de </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Seulement à partir de %n fichier</numerusform>
+                <numerusform>Seulement à partir de %n fichiers</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>

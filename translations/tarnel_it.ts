@@ -12,14 +12,6 @@
             <translation> GB liberi</translation>
         </message>
         <message>
-            <source> consecutive failures</source>
-            <translation> errori consecutivi</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> o più file</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>Il checksum %@ non corrisponde: il server indica %@, il download dà %@. Il file non è stato collocato e resta sul server; verrà scaricato di nuovo.</translation>
         </message>
@@ -222,9 +214,12 @@
             <source>Advanced Options</source>
             <translation>Opzioni avanzate</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Dopo </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Dopo %n errore</numerusform>
+                <numerusform>Dopo %n errori consecutivi</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -850,9 +845,12 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Restano solo %@ GB di spazio su disco. Libera spazio per continuare a scaricare.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Solo se </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Solo se %n o più file</numerusform>
+                <numerusform>Solo se %n o più file</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>

@@ -12,14 +12,6 @@
             <translation> GB 空き</translation>
         </message>
         <message>
-            <source> consecutive failures</source>
-            <translation> 回失敗した後</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> 個以上の場合のみ</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>%@ チェックサムが一致しません: サーバーは %@、ダウンロードは %@ です。ファイルは配置されず、サーバーに残ります。再度ダウンロードされます。</translation>
         </message>
@@ -213,9 +205,11 @@
             <source>Advanced Options</source>
             <translation>詳細オプション</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>連続 </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>連続 %n 回失敗した後</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -841,9 +835,11 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>ディスクの空き容量が残り %@ GB です。ダウンロードを続けるには空き容量を増やしてください。</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>ファイルが </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>ファイルが %n 個以上の場合のみ</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>

@@ -12,14 +12,6 @@
             <translation> GB 남음</translation>
         </message>
         <message>
-            <source> consecutive failures</source>
-            <translation>회 실패 후</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation>개 이상일 때만</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>%@ 체크섬 불일치: 서버는 %@, 다운로드는 %@입니다. 파일은 배치되지 않았으며 서버에 남아 있고, 다시 다운로드됩니다.</translation>
         </message>
@@ -213,9 +205,11 @@
             <source>Advanced Options</source>
             <translation>고급 옵션</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>연속 </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>연속 %n회 실패 후</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -841,9 +835,11 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>디스크 공간이 %@ GB밖에 남지 않았습니다. 다운로드를 계속하려면 공간을 확보하세요.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>파일이 </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>파일이 %n개 이상일 때만</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>

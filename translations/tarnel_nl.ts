@@ -12,14 +12,6 @@
             <translation> GB vrij</translation>
         </message>
         <message>
-            <source> consecutive failures</source>
-            <translation> mislukte pogingen op rij</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> of meer bestanden</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>%@-controlesom komt niet overeen: de server meldt %@, de download geeft %@. Het bestand is niet geplaatst en blijft op de server; het wordt opnieuw gedownload.</translation>
         </message>
@@ -222,9 +214,12 @@
             <source>Advanced Options</source>
             <translation>Geavanceerde opties</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Na </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Na %n mislukte poging</numerusform>
+                <numerusform>Na %n mislukte pogingen op rij</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -850,9 +845,12 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Nog maar %@ GB schijfruimte over. Maak ruimte vrij om verder te downloaden.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Alleen bij </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Alleen bij %n of meer bestanden</numerusform>
+                <numerusform>Alleen bij %n of meer bestanden</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>

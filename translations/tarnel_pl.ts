@@ -12,14 +12,6 @@
             <translation> GB wolne</translation>
         </message>
         <message>
-            <source> consecutive failures</source>
-            <translation> nieudanych próbach z rzędu</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> lub więcej plikach</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>Niezgodna suma kontrolna %@: serwer podaje %@, pobrany plik daje %@. Plik nie został umieszczony i pozostaje na serwerze; zostanie pobrany ponownie.</translation>
         </message>
@@ -231,9 +223,13 @@
             <source>Advanced Options</source>
             <translation>Opcje zaawansowane</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Po </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Po %n nieudanej próbie</numerusform>
+                <numerusform>Po %n nieudanych próbach z rzędu</numerusform>
+                <numerusform>Po %n nieudanych próbach z rzędu</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -859,9 +855,13 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Zostało tylko %@ GB miejsca na dysku. Zwolnij miejsce, aby pobierać dalej.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Tylko przy </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Tylko przy %n lub więcej plikach</numerusform>
+                <numerusform>Tylko przy %n lub więcej plikach</numerusform>
+                <numerusform>Tylko przy %n lub więcej plikach</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>

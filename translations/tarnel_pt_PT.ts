@@ -12,14 +12,6 @@
             <translation> GB livres</translation>
         </message>
         <message>
-            <source> consecutive failures</source>
-            <translation> falhas consecutivas</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> ou mais ficheiros</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>A soma de verificação %@ não coincide: o servidor indica %@, a transferência dá %@. O ficheiro não foi colocado e permanece no servidor; será transferido novamente.</translation>
         </message>
@@ -222,9 +214,12 @@
             <source>Advanced Options</source>
             <translation>Opções avançadas</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Após </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Após %n falha</numerusform>
+                <numerusform>Após %n falhas consecutivas</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -850,9 +845,12 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Restam apenas %@ GB de espaço em disco. Liberte espaço para continuar a transferir.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Apenas se houver </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Apenas se houver %n ou mais ficheiros</numerusform>
+                <numerusform>Apenas se houver %n ou mais ficheiros</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>

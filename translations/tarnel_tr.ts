@@ -12,14 +12,6 @@
             <translation> GB boş</translation>
         </message>
         <message>
-            <source> consecutive failures</source>
-            <translation> başarısızlıktan sonra</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> veya daha fazla dosya varsa</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>%@ sağlama toplamı uyuşmuyor: sunucu %@ diyor, indirme %@ veriyor. Dosya yerleştirilmedi ve sunucuda kalıyor; yeniden indirilecek.</translation>
         </message>
@@ -213,9 +205,11 @@
             <source>Advanced Options</source>
             <translation>Gelişmiş Seçenekler</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Art arda </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Art arda %n başarısızlıktan sonra</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -841,9 +835,11 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Yalnızca %@ GB disk alanı kaldı. İndirmeye devam etmek için yer açın.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Yalnızca </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Yalnızca %n veya daha fazla dosya varsa</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>

@@ -12,14 +12,6 @@
             <translation> GB 可用</translation>
         </message>
         <message>
-            <source> consecutive failures</source>
-            <translation> 次失败后</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> 个及以上时</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>%@ 校验和不匹配：服务器为 %@，下载结果为 %@。文件未放置，仍保留在服务器上；将重新下载。</translation>
         </message>
@@ -213,9 +205,11 @@
             <source>Advanced Options</source>
             <translation>高级选项</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>连续 </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>连续 %n 次失败后</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -841,9 +835,11 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>磁盘空间仅剩 %@ GB。请释放空间以继续下载。</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>仅当文件达到 </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>仅当文件达到 %n 个及以上时</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>

@@ -20,6 +20,8 @@
 #include "shell/editor/editor_texts.h"
 #include "shell/popover/popover_texts.h"
 #include "shell/settings/general_settings_tab.h"
+#include "shell/settings/notifications_settings_tab.h"
+#include "recording_notifier.h"
 #include "temporary_paths.h"
 
 namespace tarnel {
@@ -126,33 +128,46 @@ TEST(Language, ALanguageWithoutTranslationsStaysInEnglish) {
 }
 
 // A count takes the form that its language gives it: Polish has three (1; 2-4, 22-24, ...; 5-21,
-// 25-31, ...), French counts 0 as one, a language without translations has English's two.
+// 25-31, ...), French counts 0 as one, a language without translations has English's two. A
+// stepper's words follow its number as it changes.
 TEST(Language, CountsTakeTheirLanguagesForms) {
     struct Count {
         int n;
-        const char *connections, *folders;
+        const char *connections, *folders, *failures;
     };
     const std::vector<std::pair<std::string, std::vector<Count>>> languages = {
         {"pl",
-         {{1, "1 aktywne połączenie", "Wybrano 1 folder"},
-          {2, "2 aktywne połączenia", "Wybrano 2 foldery"},
-          {5, "5 aktywnych połączeń", "Wybrano 5 folderów"},
-          {12, "12 aktywnych połączeń", "Wybrano 12 folderów"},
-          {22, "22 aktywne połączenia", "Wybrano 22 foldery"}}},
-        {"fr", {{0, "", "0 dossier sélectionné"}, {2, "2 connexions actives", "2 dossiers sélectionnés"}}},
-        {"sv", {{1, "1 active connection", "1 folder selected"}, {5, "5 active connections", "5 folders selected"}}},
+         {{1, "1 aktywne połączenie", "Wybrano 1 folder", "Po 1 nieudanej próbie"},
+          {2, "2 aktywne połączenia", "Wybrano 2 foldery", "Po 2 nieudanych próbach z rzędu"},
+          {5, "5 aktywnych połączeń", "Wybrano 5 folderów", "Po 5 nieudanych próbach z rzędu"},
+          {12, "12 aktywnych połączeń", "Wybrano 12 folderów", nullptr},
+          {22, "22 aktywne połączenia", "Wybrano 22 foldery", nullptr}}},
+        {"fr",
+         {{0, nullptr, "0 dossier sélectionné", nullptr},
+          {2, "2 connexions actives", "2 dossiers sélectionnés", "Après 2 échecs consécutifs"}}},
+        {"sv",
+         {{1, "1 active connection", "1 folder selected", "After 1 consecutive failures"},
+          {5, "5 active connections", "5 folders selected", "After 5 consecutive failures"}}},
     };
     for (const auto& [code, counts] : languages) {
         QTemporaryDir dir;
         const auto paths = pathsIn(dir);
         chooseLanguage(paths, code);
         const AppLanguage language(paths.settingsFile);
+        QtSettingsStore store(paths.settingsFile);
+        AppSettings settings(store, paths.autostartFile);
+        testing::RecordingSoundPlayer sounds;
+        NotificationsSettingsTab notifications(settings, sounds);
         for (const auto& count : counts) {
             SCOPED_TRACE(code + " " + std::to_string(count.n));
-            if (count.n > 0) {
+            if (count.connections) {
                 EXPECT_EQ(headerStatusText({.enabledConnections = count.n}), count.connections);
             }
             EXPECT_EQ(foldersSelectedText(count.n).toStdString(), count.folders);
+            if (count.failures) {
+                notifications.errorAttemptsStepper()->setValue(count.n);
+                EXPECT_EQ(notifications.errorAttemptsStepper()->text().toStdString(), count.failures);
+            }
         }
     }
 }
