@@ -12,7 +12,8 @@ namespace {
 
 // The core's texts share the shell's table.
 std::string translated(std::string_view key, int count) {
-    return QCoreApplication::translate("tarnel", std::string(key).c_str(), nullptr, count).toStdString();
+    return QCoreApplication::translate("tarnel", std::string(key).c_str(), nullptr, count)
+        .toStdString();
 }
 
 }  // namespace

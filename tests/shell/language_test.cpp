@@ -166,7 +166,8 @@ TEST(Language, CountsTakeTheirLanguagesForms) {
             EXPECT_EQ(foldersSelectedText(count.n).toStdString(), count.folders);
             if (count.failures) {
                 notifications.errorAttemptsStepper()->setValue(count.n);
-                EXPECT_EQ(notifications.errorAttemptsStepper()->text().toStdString(), count.failures);
+                EXPECT_EQ(notifications.errorAttemptsStepper()->text().toStdString(),
+                          count.failures);
             }
         }
     }
@@ -190,10 +191,12 @@ std::vector<Message> messagesOf(const QString& tsFile) {
         if (xml.name() == QStringLiteral("translation")) {
             messages.back().unfinished = xml.attributes().value(QStringLiteral("type")) ==
                                          QStringLiteral("unfinished");
-            if (messages.back().source.contains(QStringLiteral("%n"))) continue;  // its forms follow
+            // A text with a count has its forms, which follow, in place of one translation.
+            if (messages.back().source.contains(QStringLiteral("%n"))) continue;
             messages.back().translation = xml.readElementText();
         }
-        if (xml.name() == QStringLiteral("numerusform")) messages.back().forms << xml.readElementText();
+        if (xml.name() == QStringLiteral("numerusform"))
+            messages.back().forms << xml.readElementText();
     }
     EXPECT_FALSE(xml.hasError()) << tsFile.toStdString() << ": " << xml.errorString().toStdString();
     return messages;
@@ -224,7 +227,8 @@ void expectEveryForm(const QTranslator& built, const Message& message) {
     QStringList found;
     for (int n = 0; n <= 1000; ++n) {
         found << built.translate("tarnel", message.source.toUtf8().constData(), nullptr, n);
-        ASSERT_TRUE(message.forms.contains(found.back())) << n << ": " << found.back().toStdString();
+        ASSERT_TRUE(message.forms.contains(found.back()))
+            << n << ": " << found.back().toStdString();
     }
     EXPECT_EQ(distinct(found), distinct(message.forms));
 }

@@ -24,8 +24,9 @@ QSpinBox* stepper(const char* sentence, int minimum, int maximum) {
         const auto number = QString::number(count);
         const auto at = text.indexOf(number);
         if (at < 0) return;
-        if (text.left(at) != box->prefix()) box->setPrefix(text.left(at));
-        if (text.mid(at + number.size()) != box->suffix()) box->setSuffix(text.mid(at + number.size()));
+        const auto before = text.left(at), after = text.mid(at + number.size());
+        if (before != box->prefix()) box->setPrefix(before);
+        if (after != box->suffix()) box->setSuffix(after);
     };
     QObject::connect(box, &QSpinBox::valueChanged, box, agree);
     agree(box->value());
