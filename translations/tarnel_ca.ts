@@ -12,60 +12,12 @@
             <translation> GB lliures</translation>
         </message>
         <message>
-            <source> active connections</source>
-            <translation> connexions actives</translation>
-        </message>
-        <message>
-            <source> consecutive failures</source>
-            <translation> errors consecutius</translation>
-        </message>
-        <message>
-            <source> files</source>
-            <translation> fitxers</translation>
-        </message>
-        <message>
-            <source> folders selected</source>
-            <translation> carpetes seleccionades</translation>
-        </message>
-        <message>
-            <source> minute</source>
-            <translation> minut</translation>
-        </message>
-        <message>
-            <source> minutes</source>
-            <translation> minuts</translation>
-        </message>
-        <message>
-            <source> more downloading...</source>
-            <translation> més en baixada...</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> fitxers o més</translation>
-        </message>
-        <message>
-            <source> second</source>
-            <translation> segon</translation>
-        </message>
-        <message>
-            <source> seconds</source>
-            <translation> segons</translation>
-        </message>
-        <message>
-            <source> waiting for stability</source>
-            <translation> esperant que s'estabilitzin</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>La suma de verificació %@ no coincideix: el servidor indica %@, la baixada dona %@. El fitxer no s'ha col·locat i es queda al servidor; es tornarà a baixar.</translation>
         </message>
         <message>
             <source>%@ checksums</source>
             <translation>Sumes de verificació %@</translation>
-        </message>
-        <message>
-            <source>%lld files found</source>
-            <translation>S'han trobat %lld fitxers</translation>
         </message>
         <message>
             <source>%lld min ago</source>
@@ -83,6 +35,55 @@
             <source>%llds ago</source>
             <translation>fa %lld s</translation>
         </message>
+        <message numerus="yes">
+            <source>%n active connection(s)</source>
+            <translation>
+                <numerusform>%n connexió activa</numerusform>
+                <numerusform>%n connexions actives</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s)</source>
+            <translation>
+                <numerusform>%n fitxer</numerusform>
+                <numerusform>%n fitxers</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s) found</source>
+            <translation>
+                <numerusform>S'ha trobat %n fitxer</numerusform>
+                <numerusform>S'han trobat %n fitxers</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n folder(s) selected</source>
+            <translation>
+                <numerusform>%n carpeta seleccionada</numerusform>
+                <numerusform>%n carpetes seleccionades</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s)</source>
+            <translation>
+                <numerusform>%n minut</numerusform>
+                <numerusform>%n minuts</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n second(s)</source>
+            <translation>
+                <numerusform>%n segon</numerusform>
+                <numerusform>%n segons</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n waiting for stability</source>
+            <translation>
+                <numerusform>%n esperant que s'estabilitzi</numerusform>
+                <numerusform>%n esperant que s'estabilitzin</numerusform>
+            </translation>
+        </message>
         <message>
             <source>' has changes that were not applied.</source>
             <translation>» té canvis sense aplicar.</translation>
@@ -95,33 +96,27 @@
             <source>*.2024.*</source>
             <translation>*.2024.*</translation>
         </message>
+        <message numerus="yes">
+            <source>+%n more downloading...</source>
+            <translation>
+                <numerusform>+%n més en baixada...</numerusform>
+                <numerusform>+%n més en baixada...</numerusform>
+            </translation>
+        </message>
         <message>
             <source>. Do you want to continue?</source>
             <translation>. Voleu continuar?</translation>
         </message>
-        <message>
-            <source>...and</source>
-            <translation>...i</translation>
+        <message numerus="yes">
+            <source>...and %n more</source>
+            <translation>
+                <numerusform>...i %n més</numerusform>
+                <numerusform>...i %n més</numerusform>
+            </translation>
         </message>
         <message>
             <source>1 MB/s</source>
             <translation>1 MB/s</translation>
-        </message>
-        <message>
-            <source>1 active connection</source>
-            <translation>1 connexió activa</translation>
-        </message>
-        <message>
-            <source>1 file</source>
-            <translation>1 fitxer</translation>
-        </message>
-        <message>
-            <source>1 file found</source>
-            <translation>S'ha trobat 1 fitxer</translation>
-        </message>
-        <message>
-            <source>1 folder selected</source>
-            <translation>1 carpeta seleccionada</translation>
         </message>
         <message>
             <source>1 minute</source>
@@ -219,9 +214,12 @@
             <source>Advanced Options</source>
             <translation>Opcions avançades</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Després de </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Després de %n error</numerusform>
+                <numerusform>Després de %n errors consecutius</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -847,9 +845,12 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Només queden %@ GB d'espai de disc. Allibereu espai per continuar baixant.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Només si hi ha </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Només si hi ha %n fitxer o més</numerusform>
+                <numerusform>Només si hi ha %n fitxers o més</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>
@@ -1263,9 +1264,12 @@
             <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
             <translation>Tarnel continua funcionant en segon pla quan tanqueu aquesta finestra. Per tornar-la a obrir, inicieu Tarnel des del menú d'aplicacions.</translation>
         </message>
-        <message>
-            <source>Tarnel: 1 file downloaded</source>
-            <translation>Tarnel: 1 fitxer baixat</translation>
+        <message numerus="yes">
+            <source>Tarnel: %n file(s) downloaded</source>
+            <translation>
+                <numerusform>Tarnel: %n fitxer baixat</numerusform>
+                <numerusform>Tarnel: %n fitxers baixats</numerusform>
+            </translation>
         </message>
         <message>
             <source>Tarnel: Connection error</source>
@@ -1376,10 +1380,6 @@
             <translation>Nom d'usuari o contrasenya incorrectes</translation>
         </message>
         <message>
-            <source>attempts</source>
-            <translation>intents</translation>
-        </message>
-        <message>
             <source>dead.rule.warning</source>
             <translation>No s'usa mai: una regla anterior ja agafa aquests fitxers</translation>
         </message>
@@ -1419,17 +1419,12 @@
             <source>ext.unspecified.label</source>
             <translation>Altres extensions</translation>
         </message>
-        <message>
-            <source>failed after</source>
-            <translation>ha fallat després de</translation>
-        </message>
-        <message>
-            <source>files</source>
-            <translation>fitxers</translation>
-        </message>
-        <message>
-            <source>files downloaded</source>
-            <translation>fitxers baixats</translation>
+        <message numerus="yes">
+            <source>failed after %n attempts</source>
+            <translation>
+                <numerusform>ha fallat després de %n intent</numerusform>
+                <numerusform>ha fallat després de %n intents</numerusform>
+            </translation>
         </message>
         <message>
             <source>growing...</source>
@@ -1446,10 +1441,6 @@
         <message>
             <source>just now</source>
             <translation>ara mateix</translation>
-        </message>
-        <message>
-            <source>more</source>
-            <translation>més</translation>
         </message>
     </context>
 </TS>

@@ -12,60 +12,12 @@
             <translation> GB frei</translation>
         </message>
         <message>
-            <source> active connections</source>
-            <translation> aktive Verbindungen</translation>
-        </message>
-        <message>
-            <source> consecutive failures</source>
-            <translation> aufeinanderfolgenden Fehlschlägen</translation>
-        </message>
-        <message>
-            <source> files</source>
-            <translation> Dateien</translation>
-        </message>
-        <message>
-            <source> folders selected</source>
-            <translation> Ordner ausgewählt</translation>
-        </message>
-        <message>
-            <source> minute</source>
-            <translation> Minute</translation>
-        </message>
-        <message>
-            <source> minutes</source>
-            <translation> Minuten</translation>
-        </message>
-        <message>
-            <source> more downloading...</source>
-            <translation> weitere werden geladen...</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> Dateien</translation>
-        </message>
-        <message>
-            <source> second</source>
-            <translation> Sekunde</translation>
-        </message>
-        <message>
-            <source> seconds</source>
-            <translation> Sekunden</translation>
-        </message>
-        <message>
-            <source> waiting for stability</source>
-            <translation> warten auf Stabilität</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>%@-Prüfsumme stimmt nicht überein: Der Server meldet %@, der Download ergibt %@. Die Datei wurde nicht abgelegt und bleibt auf dem Server; sie wird erneut heruntergeladen.</translation>
         </message>
         <message>
             <source>%@ checksums</source>
             <translation>%@-Prüfsummen</translation>
-        </message>
-        <message>
-            <source>%lld files found</source>
-            <translation>%lld Dateien gefunden</translation>
         </message>
         <message>
             <source>%lld min ago</source>
@@ -83,6 +35,55 @@
             <source>%llds ago</source>
             <translation>vor %lld s</translation>
         </message>
+        <message numerus="yes">
+            <source>%n active connection(s)</source>
+            <translation>
+                <numerusform>%n aktive Verbindung</numerusform>
+                <numerusform>%n aktive Verbindungen</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s)</source>
+            <translation>
+                <numerusform>%n Datei</numerusform>
+                <numerusform>%n Dateien</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s) found</source>
+            <translation>
+                <numerusform>%n Datei gefunden</numerusform>
+                <numerusform>%n Dateien gefunden</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n folder(s) selected</source>
+            <translation>
+                <numerusform>%n Ordner ausgewählt</numerusform>
+                <numerusform>%n Ordner ausgewählt</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s)</source>
+            <translation>
+                <numerusform>%n Minute</numerusform>
+                <numerusform>%n Minuten</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n second(s)</source>
+            <translation>
+                <numerusform>%n Sekunde</numerusform>
+                <numerusform>%n Sekunden</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n waiting for stability</source>
+            <translation>
+                <numerusform>%n wartet auf Stabilität</numerusform>
+                <numerusform>%n warten auf Stabilität</numerusform>
+            </translation>
+        </message>
         <message>
             <source>' has changes that were not applied.</source>
             <translation>“ hat Änderungen, die nicht übernommen wurden.</translation>
@@ -95,33 +96,27 @@
             <source>*.2024.*</source>
             <translation>*.2024.*</translation>
         </message>
+        <message numerus="yes">
+            <source>+%n more downloading...</source>
+            <translation>
+                <numerusform>+%n weitere wird geladen...</numerusform>
+                <numerusform>+%n weitere werden geladen...</numerusform>
+            </translation>
+        </message>
         <message>
             <source>. Do you want to continue?</source>
             <translation> überschrieben. Möchten Sie fortfahren?</translation>
         </message>
-        <message>
-            <source>...and</source>
-            <translation>...und</translation>
+        <message numerus="yes">
+            <source>...and %n more</source>
+            <translation>
+                <numerusform>...und %n weitere</numerusform>
+                <numerusform>...und %n weitere</numerusform>
+            </translation>
         </message>
         <message>
             <source>1 MB/s</source>
             <translation>1 MB/s</translation>
-        </message>
-        <message>
-            <source>1 active connection</source>
-            <translation>1 aktive Verbindung</translation>
-        </message>
-        <message>
-            <source>1 file</source>
-            <translation>1 Datei</translation>
-        </message>
-        <message>
-            <source>1 file found</source>
-            <translation>1 Datei gefunden</translation>
-        </message>
-        <message>
-            <source>1 folder selected</source>
-            <translation>1 Ordner ausgewählt</translation>
         </message>
         <message>
             <source>1 minute</source>
@@ -219,9 +214,12 @@
             <source>Advanced Options</source>
             <translation>Erweiterte Optionen</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Nach </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Nach %n Fehlschlag</numerusform>
+                <numerusform>Nach %n aufeinanderfolgenden Fehlschlägen</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -847,9 +845,12 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Nur noch %@ GB Speicherplatz frei. Geben Sie Speicherplatz frei, um weiter herunterzuladen.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Nur bei mindestens </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Nur bei mindestens %n Datei</numerusform>
+                <numerusform>Nur bei mindestens %n Dateien</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>
@@ -1263,9 +1264,12 @@
             <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
             <translation>Tarnel läuft im Hintergrund weiter, wenn Sie dieses Fenster schließen. Um es wieder zu öffnen, starten Sie Tarnel erneut aus dem Anwendungsmenü.</translation>
         </message>
-        <message>
-            <source>Tarnel: 1 file downloaded</source>
-            <translation>Tarnel: 1 Datei heruntergeladen</translation>
+        <message numerus="yes">
+            <source>Tarnel: %n file(s) downloaded</source>
+            <translation>
+                <numerusform>Tarnel: %n Datei heruntergeladen</numerusform>
+                <numerusform>Tarnel: %n Dateien heruntergeladen</numerusform>
+            </translation>
         </message>
         <message>
             <source>Tarnel: Connection error</source>
@@ -1376,10 +1380,6 @@
             <translation>Falscher Benutzername oder falsches Passwort</translation>
         </message>
         <message>
-            <source>attempts</source>
-            <translation>Versuchen</translation>
-        </message>
-        <message>
             <source>dead.rule.warning</source>
             <translation>Wird nie verwendet: Eine frühere Regel erfasst diese Dateien bereits</translation>
         </message>
@@ -1419,17 +1419,12 @@
             <source>ext.unspecified.label</source>
             <translation>Andere Endungen</translation>
         </message>
-        <message>
-            <source>failed after</source>
-            <translation>fehlgeschlagen nach</translation>
-        </message>
-        <message>
-            <source>files</source>
-            <translation>Dateien</translation>
-        </message>
-        <message>
-            <source>files downloaded</source>
-            <translation>Dateien heruntergeladen</translation>
+        <message numerus="yes">
+            <source>failed after %n attempts</source>
+            <translation>
+                <numerusform>fehlgeschlagen nach %n Versuch</numerusform>
+                <numerusform>fehlgeschlagen nach %n Versuchen</numerusform>
+            </translation>
         </message>
         <message>
             <source>growing...</source>
@@ -1446,10 +1441,6 @@
         <message>
             <source>just now</source>
             <translation>gerade eben</translation>
-        </message>
-        <message>
-            <source>more</source>
-            <translation>weitere</translation>
         </message>
     </context>
 </TS>

@@ -12,60 +12,12 @@
             <translation> GB libres</translation>
         </message>
         <message>
-            <source> active connections</source>
-            <translation> conexiones activas</translation>
-        </message>
-        <message>
-            <source> consecutive failures</source>
-            <translation> fallos consecutivos</translation>
-        </message>
-        <message>
-            <source> files</source>
-            <translation> archivos</translation>
-        </message>
-        <message>
-            <source> folders selected</source>
-            <translation> carpetas seleccionadas</translation>
-        </message>
-        <message>
-            <source> minute</source>
-            <translation> minuto</translation>
-        </message>
-        <message>
-            <source> minutes</source>
-            <translation> minutos</translation>
-        </message>
-        <message>
-            <source> more downloading...</source>
-            <translation> más descargándose...</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> archivos o más</translation>
-        </message>
-        <message>
-            <source> second</source>
-            <translation> segundo</translation>
-        </message>
-        <message>
-            <source> seconds</source>
-            <translation> segundos</translation>
-        </message>
-        <message>
-            <source> waiting for stability</source>
-            <translation> esperando a estabilizarse</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>La suma de comprobación %@ no coincide: el servidor indica %@, la descarga da %@. El archivo no se ha colocado y permanece en el servidor; se volverá a descargar.</translation>
         </message>
         <message>
             <source>%@ checksums</source>
             <translation>Sumas de comprobación %@</translation>
-        </message>
-        <message>
-            <source>%lld files found</source>
-            <translation>%lld archivos encontrados</translation>
         </message>
         <message>
             <source>%lld min ago</source>
@@ -83,6 +35,55 @@
             <source>%llds ago</source>
             <translation>hace %lld s</translation>
         </message>
+        <message numerus="yes">
+            <source>%n active connection(s)</source>
+            <translation>
+                <numerusform>%n conexión activa</numerusform>
+                <numerusform>%n conexiones activas</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s)</source>
+            <translation>
+                <numerusform>%n archivo</numerusform>
+                <numerusform>%n archivos</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s) found</source>
+            <translation>
+                <numerusform>%n archivo encontrado</numerusform>
+                <numerusform>%n archivos encontrados</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n folder(s) selected</source>
+            <translation>
+                <numerusform>%n carpeta seleccionada</numerusform>
+                <numerusform>%n carpetas seleccionadas</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s)</source>
+            <translation>
+                <numerusform>%n minuto</numerusform>
+                <numerusform>%n minutos</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n second(s)</source>
+            <translation>
+                <numerusform>%n segundo</numerusform>
+                <numerusform>%n segundos</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n waiting for stability</source>
+            <translation>
+                <numerusform>%n esperando a estabilizarse</numerusform>
+                <numerusform>%n esperando a estabilizarse</numerusform>
+            </translation>
+        </message>
         <message>
             <source>' has changes that were not applied.</source>
             <translation>» tiene cambios sin aplicar.</translation>
@@ -95,33 +96,27 @@
             <source>*.2024.*</source>
             <translation>*.2024.*</translation>
         </message>
+        <message numerus="yes">
+            <source>+%n more downloading...</source>
+            <translation>
+                <numerusform>+%n más descargándose...</numerusform>
+                <numerusform>+%n más descargándose...</numerusform>
+            </translation>
+        </message>
         <message>
             <source>. Do you want to continue?</source>
             <translation>. ¿Desea continuar?</translation>
         </message>
-        <message>
-            <source>...and</source>
-            <translation>...y</translation>
+        <message numerus="yes">
+            <source>...and %n more</source>
+            <translation>
+                <numerusform>...y %n más</numerusform>
+                <numerusform>...y %n más</numerusform>
+            </translation>
         </message>
         <message>
             <source>1 MB/s</source>
             <translation>1 MB/s</translation>
-        </message>
-        <message>
-            <source>1 active connection</source>
-            <translation>1 conexión activa</translation>
-        </message>
-        <message>
-            <source>1 file</source>
-            <translation>1 archivo</translation>
-        </message>
-        <message>
-            <source>1 file found</source>
-            <translation>1 archivo encontrado</translation>
-        </message>
-        <message>
-            <source>1 folder selected</source>
-            <translation>1 carpeta seleccionada</translation>
         </message>
         <message>
             <source>1 minute</source>
@@ -219,9 +214,12 @@
             <source>Advanced Options</source>
             <translation>Opciones avanzadas</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Tras </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Tras %n fallo</numerusform>
+                <numerusform>Tras %n fallos consecutivos</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -847,9 +845,12 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Solo quedan %@ GB de espacio en disco. Libere espacio para seguir descargando.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Solo si hay </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Solo si hay %n archivo o más</numerusform>
+                <numerusform>Solo si hay %n archivos o más</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>
@@ -1263,9 +1264,12 @@
             <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
             <translation>Tarnel sigue funcionando en segundo plano al cerrar esta ventana. Para volver a abrirla, inicie Tarnel desde el menú de aplicaciones.</translation>
         </message>
-        <message>
-            <source>Tarnel: 1 file downloaded</source>
-            <translation>Tarnel: 1 archivo descargado</translation>
+        <message numerus="yes">
+            <source>Tarnel: %n file(s) downloaded</source>
+            <translation>
+                <numerusform>Tarnel: %n archivo descargado</numerusform>
+                <numerusform>Tarnel: %n archivos descargados</numerusform>
+            </translation>
         </message>
         <message>
             <source>Tarnel: Connection error</source>
@@ -1376,10 +1380,6 @@
             <translation>Usuario o contraseña incorrectos</translation>
         </message>
         <message>
-            <source>attempts</source>
-            <translation>intentos</translation>
-        </message>
-        <message>
             <source>dead.rule.warning</source>
             <translation>Nunca se aplica: una regla anterior ya recoge estos archivos</translation>
         </message>
@@ -1419,17 +1419,12 @@
             <source>ext.unspecified.label</source>
             <translation>Otras extensiones</translation>
         </message>
-        <message>
-            <source>failed after</source>
-            <translation>falló tras</translation>
-        </message>
-        <message>
-            <source>files</source>
-            <translation>archivos</translation>
-        </message>
-        <message>
-            <source>files downloaded</source>
-            <translation>archivos descargados</translation>
+        <message numerus="yes">
+            <source>failed after %n attempts</source>
+            <translation>
+                <numerusform>falló tras %n intento</numerusform>
+                <numerusform>falló tras %n intentos</numerusform>
+            </translation>
         </message>
         <message>
             <source>growing...</source>
@@ -1446,10 +1441,6 @@
         <message>
             <source>just now</source>
             <translation>ahora mismo</translation>
-        </message>
-        <message>
-            <source>more</source>
-            <translation>más</translation>
         </message>
     </context>
 </TS>

@@ -12,60 +12,12 @@
             <translation> Go libres</translation>
         </message>
         <message>
-            <source> active connections</source>
-            <translation> connexions actives</translation>
-        </message>
-        <message>
-            <source> consecutive failures</source>
-            <translation> échecs consécutifs</translation>
-        </message>
-        <message>
-            <source> files</source>
-            <translation> fichiers</translation>
-        </message>
-        <message>
-            <source> folders selected</source>
-            <translation> dossiers sélectionnés</translation>
-        </message>
-        <message>
-            <source> minute</source>
-            <translation> minute</translation>
-        </message>
-        <message>
-            <source> minutes</source>
-            <translation> minutes</translation>
-        </message>
-        <message>
-            <source> more downloading...</source>
-            <translation> autres en téléchargement...</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> fichiers</translation>
-        </message>
-        <message>
-            <source> second</source>
-            <translation> seconde</translation>
-        </message>
-        <message>
-            <source> seconds</source>
-            <translation> secondes</translation>
-        </message>
-        <message>
-            <source> waiting for stability</source>
-            <translation> en attente de stabilité</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>Somme de contrôle %@ différente : le serveur indique %@, le téléchargement donne %@. Le fichier n'a pas été placé et reste sur le serveur ; il sera téléchargé à nouveau.</translation>
         </message>
         <message>
             <source>%@ checksums</source>
             <translation>Sommes de contrôle %@</translation>
-        </message>
-        <message>
-            <source>%lld files found</source>
-            <translation>%lld fichiers trouvés</translation>
         </message>
         <message>
             <source>%lld min ago</source>
@@ -83,6 +35,55 @@
             <source>%llds ago</source>
             <translation>il y a %lld s</translation>
         </message>
+        <message numerus="yes">
+            <source>%n active connection(s)</source>
+            <translation>
+                <numerusform>%n connexion active</numerusform>
+                <numerusform>%n connexions actives</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s)</source>
+            <translation>
+                <numerusform>%n fichier</numerusform>
+                <numerusform>%n fichiers</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s) found</source>
+            <translation>
+                <numerusform>%n fichier trouvé</numerusform>
+                <numerusform>%n fichiers trouvés</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n folder(s) selected</source>
+            <translation>
+                <numerusform>%n dossier sélectionné</numerusform>
+                <numerusform>%n dossiers sélectionnés</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s)</source>
+            <translation>
+                <numerusform>%n minute</numerusform>
+                <numerusform>%n minutes</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n second(s)</source>
+            <translation>
+                <numerusform>%n seconde</numerusform>
+                <numerusform>%n secondes</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n waiting for stability</source>
+            <translation>
+                <numerusform>%n en attente de stabilité</numerusform>
+                <numerusform>%n en attente de stabilité</numerusform>
+            </translation>
+        </message>
         <message>
             <source>' has changes that were not applied.</source>
             <translation> » a des modifications non appliquées.</translation>
@@ -95,33 +96,27 @@
             <source>*.2024.*</source>
             <translation>*.2024.*</translation>
         </message>
+        <message numerus="yes">
+            <source>+%n more downloading...</source>
+            <translation>
+                <numerusform>+%n autre en téléchargement...</numerusform>
+                <numerusform>+%n autres en téléchargement...</numerusform>
+            </translation>
+        </message>
         <message>
             <source>. Do you want to continue?</source>
             <translation>. Voulez-vous continuer ?</translation>
         </message>
-        <message>
-            <source>...and</source>
-            <translation>...et</translation>
+        <message numerus="yes">
+            <source>...and %n more</source>
+            <translation>
+                <numerusform>...et %n autre</numerusform>
+                <numerusform>...et %n autres</numerusform>
+            </translation>
         </message>
         <message>
             <source>1 MB/s</source>
             <translation>1 Mo/s</translation>
-        </message>
-        <message>
-            <source>1 active connection</source>
-            <translation>1 connexion active</translation>
-        </message>
-        <message>
-            <source>1 file</source>
-            <translation>1 fichier</translation>
-        </message>
-        <message>
-            <source>1 file found</source>
-            <translation>1 fichier trouvé</translation>
-        </message>
-        <message>
-            <source>1 folder selected</source>
-            <translation>1 dossier sélectionné</translation>
         </message>
         <message>
             <source>1 minute</source>
@@ -219,9 +214,12 @@
             <source>Advanced Options</source>
             <translation>Options avancées</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Après </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Après %n échec</numerusform>
+                <numerusform>Après %n échecs consécutifs</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -847,9 +845,12 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Il ne reste que %@ Go d'espace disque. Libérez de l'espace pour continuer les téléchargements.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Seulement à partir de </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Seulement à partir de %n fichier</numerusform>
+                <numerusform>Seulement à partir de %n fichiers</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>
@@ -1263,9 +1264,12 @@
             <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
             <translation>Tarnel continue de fonctionner en arrière-plan quand vous fermez cette fenêtre. Pour la rouvrir, lancez Tarnel depuis le menu des applications.</translation>
         </message>
-        <message>
-            <source>Tarnel: 1 file downloaded</source>
-            <translation>Tarnel : 1 fichier téléchargé</translation>
+        <message numerus="yes">
+            <source>Tarnel: %n file(s) downloaded</source>
+            <translation>
+                <numerusform>Tarnel : %n fichier téléchargé</numerusform>
+                <numerusform>Tarnel : %n fichiers téléchargés</numerusform>
+            </translation>
         </message>
         <message>
             <source>Tarnel: Connection error</source>
@@ -1376,10 +1380,6 @@
             <translation>Nom d'utilisateur ou mot de passe incorrect</translation>
         </message>
         <message>
-            <source>attempts</source>
-            <translation>tentatives</translation>
-        </message>
-        <message>
             <source>dead.rule.warning</source>
             <translation>Jamais utilisée : une règle précédente prend déjà ces fichiers</translation>
         </message>
@@ -1419,17 +1419,12 @@
             <source>ext.unspecified.label</source>
             <translation>Autres extensions</translation>
         </message>
-        <message>
-            <source>failed after</source>
-            <translation>a échoué après</translation>
-        </message>
-        <message>
-            <source>files</source>
-            <translation>fichiers</translation>
-        </message>
-        <message>
-            <source>files downloaded</source>
-            <translation>fichiers téléchargés</translation>
+        <message numerus="yes">
+            <source>failed after %n attempts</source>
+            <translation>
+                <numerusform>a échoué après %n tentative</numerusform>
+                <numerusform>a échoué après %n tentatives</numerusform>
+            </translation>
         </message>
         <message>
             <source>growing...</source>
@@ -1446,10 +1441,6 @@
         <message>
             <source>just now</source>
             <translation>à l'instant</translation>
-        </message>
-        <message>
-            <source>more</source>
-            <translation>autres</translation>
         </message>
     </context>
 </TS>

@@ -12,60 +12,12 @@
             <translation> GB liberi</translation>
         </message>
         <message>
-            <source> active connections</source>
-            <translation> connessioni attive</translation>
-        </message>
-        <message>
-            <source> consecutive failures</source>
-            <translation> errori consecutivi</translation>
-        </message>
-        <message>
-            <source> files</source>
-            <translation> file</translation>
-        </message>
-        <message>
-            <source> folders selected</source>
-            <translation> cartelle selezionate</translation>
-        </message>
-        <message>
-            <source> minute</source>
-            <translation> minuto</translation>
-        </message>
-        <message>
-            <source> minutes</source>
-            <translation> minuti</translation>
-        </message>
-        <message>
-            <source> more downloading...</source>
-            <translation> altri in download...</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> o più file</translation>
-        </message>
-        <message>
-            <source> second</source>
-            <translation> secondo</translation>
-        </message>
-        <message>
-            <source> seconds</source>
-            <translation> secondi</translation>
-        </message>
-        <message>
-            <source> waiting for stability</source>
-            <translation> in attesa di stabilità</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>Il checksum %@ non corrisponde: il server indica %@, il download dà %@. Il file non è stato collocato e resta sul server; verrà scaricato di nuovo.</translation>
         </message>
         <message>
             <source>%@ checksums</source>
             <translation>Checksum %@</translation>
-        </message>
-        <message>
-            <source>%lld files found</source>
-            <translation>%lld file trovati</translation>
         </message>
         <message>
             <source>%lld min ago</source>
@@ -83,6 +35,55 @@
             <source>%llds ago</source>
             <translation>%lld s fa</translation>
         </message>
+        <message numerus="yes">
+            <source>%n active connection(s)</source>
+            <translation>
+                <numerusform>%n connessione attiva</numerusform>
+                <numerusform>%n connessioni attive</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s)</source>
+            <translation>
+                <numerusform>%n file</numerusform>
+                <numerusform>%n file</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s) found</source>
+            <translation>
+                <numerusform>%n file trovato</numerusform>
+                <numerusform>%n file trovati</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n folder(s) selected</source>
+            <translation>
+                <numerusform>%n cartella selezionata</numerusform>
+                <numerusform>%n cartelle selezionate</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s)</source>
+            <translation>
+                <numerusform>%n minuto</numerusform>
+                <numerusform>%n minuti</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n second(s)</source>
+            <translation>
+                <numerusform>%n secondo</numerusform>
+                <numerusform>%n secondi</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n waiting for stability</source>
+            <translation>
+                <numerusform>%n in attesa di stabilità</numerusform>
+                <numerusform>%n in attesa di stabilità</numerusform>
+            </translation>
+        </message>
         <message>
             <source>' has changes that were not applied.</source>
             <translation>» ha modifiche non applicate.</translation>
@@ -95,33 +96,27 @@
             <source>*.2024.*</source>
             <translation>*.2024.*</translation>
         </message>
+        <message numerus="yes">
+            <source>+%n more downloading...</source>
+            <translation>
+                <numerusform>+%n altro in download...</numerusform>
+                <numerusform>+%n altri in download...</numerusform>
+            </translation>
+        </message>
         <message>
             <source>. Do you want to continue?</source>
             <translation>. Continuare?</translation>
         </message>
-        <message>
-            <source>...and</source>
-            <translation>...e</translation>
+        <message numerus="yes">
+            <source>...and %n more</source>
+            <translation>
+                <numerusform>...e %n altro</numerusform>
+                <numerusform>...e %n altri</numerusform>
+            </translation>
         </message>
         <message>
             <source>1 MB/s</source>
             <translation>1 MB/s</translation>
-        </message>
-        <message>
-            <source>1 active connection</source>
-            <translation>1 connessione attiva</translation>
-        </message>
-        <message>
-            <source>1 file</source>
-            <translation>1 file</translation>
-        </message>
-        <message>
-            <source>1 file found</source>
-            <translation>1 file trovato</translation>
-        </message>
-        <message>
-            <source>1 folder selected</source>
-            <translation>1 cartella selezionata</translation>
         </message>
         <message>
             <source>1 minute</source>
@@ -219,9 +214,12 @@
             <source>Advanced Options</source>
             <translation>Opzioni avanzate</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Dopo </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Dopo %n errore</numerusform>
+                <numerusform>Dopo %n errori consecutivi</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -847,9 +845,12 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Restano solo %@ GB di spazio su disco. Libera spazio per continuare a scaricare.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Solo se </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Solo se %n o più file</numerusform>
+                <numerusform>Solo se %n o più file</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>
@@ -1263,9 +1264,12 @@
             <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
             <translation>Tarnel continua a funzionare in background quando chiudi questa finestra. Per riaprirla, avvia Tarnel dal menu delle applicazioni.</translation>
         </message>
-        <message>
-            <source>Tarnel: 1 file downloaded</source>
-            <translation>Tarnel: 1 file scaricato</translation>
+        <message numerus="yes">
+            <source>Tarnel: %n file(s) downloaded</source>
+            <translation>
+                <numerusform>Tarnel: %n file scaricato</numerusform>
+                <numerusform>Tarnel: %n file scaricati</numerusform>
+            </translation>
         </message>
         <message>
             <source>Tarnel: Connection error</source>
@@ -1376,10 +1380,6 @@
             <translation>Nome utente o password errati</translation>
         </message>
         <message>
-            <source>attempts</source>
-            <translation>tentativi</translation>
-        </message>
-        <message>
             <source>dead.rule.warning</source>
             <translation>Mai usata: una regola precedente prende già questi file</translation>
         </message>
@@ -1419,17 +1419,12 @@
             <source>ext.unspecified.label</source>
             <translation>Altre estensioni</translation>
         </message>
-        <message>
-            <source>failed after</source>
-            <translation>non riuscito dopo</translation>
-        </message>
-        <message>
-            <source>files</source>
-            <translation>file</translation>
-        </message>
-        <message>
-            <source>files downloaded</source>
-            <translation>file scaricati</translation>
+        <message numerus="yes">
+            <source>failed after %n attempts</source>
+            <translation>
+                <numerusform>non riuscito dopo %n tentativo</numerusform>
+                <numerusform>non riuscito dopo %n tentativi</numerusform>
+            </translation>
         </message>
         <message>
             <source>growing...</source>
@@ -1446,10 +1441,6 @@
         <message>
             <source>just now</source>
             <translation>adesso</translation>
-        </message>
-        <message>
-            <source>more</source>
-            <translation>altri</translation>
         </message>
     </context>
 </TS>

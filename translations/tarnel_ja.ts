@@ -12,60 +12,12 @@
             <translation> GB 空き</translation>
         </message>
         <message>
-            <source> active connections</source>
-            <translation> 件の接続が有効</translation>
-        </message>
-        <message>
-            <source> consecutive failures</source>
-            <translation> 回失敗した後</translation>
-        </message>
-        <message>
-            <source> files</source>
-            <translation> 個のファイル</translation>
-        </message>
-        <message>
-            <source> folders selected</source>
-            <translation> 個のフォルダーを選択</translation>
-        </message>
-        <message>
-            <source> minute</source>
-            <translation> 分</translation>
-        </message>
-        <message>
-            <source> minutes</source>
-            <translation> 分</translation>
-        </message>
-        <message>
-            <source> more downloading...</source>
-            <translation> 件をダウンロード中...</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> 個以上の場合のみ</translation>
-        </message>
-        <message>
-            <source> second</source>
-            <translation> 秒</translation>
-        </message>
-        <message>
-            <source> seconds</source>
-            <translation> 秒</translation>
-        </message>
-        <message>
-            <source> waiting for stability</source>
-            <translation> 件がサイズの安定待ち</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>%@ チェックサムが一致しません: サーバーは %@、ダウンロードは %@ です。ファイルは配置されず、サーバーに残ります。再度ダウンロードされます。</translation>
         </message>
         <message>
             <source>%@ checksums</source>
             <translation>%@ チェックサム</translation>
-        </message>
-        <message>
-            <source>%lld files found</source>
-            <translation>%lld 個のファイルが見つかりました</translation>
         </message>
         <message>
             <source>%lld min ago</source>
@@ -83,6 +35,48 @@
             <source>%llds ago</source>
             <translation>%lld 秒前</translation>
         </message>
+        <message numerus="yes">
+            <source>%n active connection(s)</source>
+            <translation>
+                <numerusform>%n 件の接続が有効</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s)</source>
+            <translation>
+                <numerusform>%n 個のファイル</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s) found</source>
+            <translation>
+                <numerusform>%n 個のファイルが見つかりました</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n folder(s) selected</source>
+            <translation>
+                <numerusform>%n 個のフォルダーを選択</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s)</source>
+            <translation>
+                <numerusform>%n 分</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n second(s)</source>
+            <translation>
+                <numerusform>%n 秒</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n waiting for stability</source>
+            <translation>
+                <numerusform>%n 件がサイズの安定待ち</numerusform>
+            </translation>
+        </message>
         <message>
             <source>' has changes that were not applied.</source>
             <translation>」に適用していない変更があります。</translation>
@@ -95,33 +89,25 @@
             <source>*.2024.*</source>
             <translation>*.2024.*</translation>
         </message>
+        <message numerus="yes">
+            <source>+%n more downloading...</source>
+            <translation>
+                <numerusform>+%n 件をダウンロード中...</numerusform>
+            </translation>
+        </message>
         <message>
             <source>. Do you want to continue?</source>
             <translation>」の推奨値で上書きされます。続行しますか？</translation>
         </message>
-        <message>
-            <source>...and</source>
-            <translation>...ほか</translation>
+        <message numerus="yes">
+            <source>...and %n more</source>
+            <translation>
+                <numerusform>...ほか %n 件</numerusform>
+            </translation>
         </message>
         <message>
             <source>1 MB/s</source>
             <translation>1 MB/s</translation>
-        </message>
-        <message>
-            <source>1 active connection</source>
-            <translation>1 件の接続が有効</translation>
-        </message>
-        <message>
-            <source>1 file</source>
-            <translation>1 個のファイル</translation>
-        </message>
-        <message>
-            <source>1 file found</source>
-            <translation>1 個のファイルが見つかりました</translation>
-        </message>
-        <message>
-            <source>1 folder selected</source>
-            <translation>1 個のフォルダーを選択</translation>
         </message>
         <message>
             <source>1 minute</source>
@@ -219,9 +205,11 @@
             <source>Advanced Options</source>
             <translation>詳細オプション</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>連続 </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>連続 %n 回失敗した後</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -847,9 +835,11 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>ディスクの空き容量が残り %@ GB です。ダウンロードを続けるには空き容量を増やしてください。</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>ファイルが </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>ファイルが %n 個以上の場合のみ</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>
@@ -1263,9 +1253,11 @@
             <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
             <translation>このウィンドウを閉じても Tarnel はバックグラウンドで動作し続けます。再び開くには、アプリケーションメニューから Tarnel を起動してください。</translation>
         </message>
-        <message>
-            <source>Tarnel: 1 file downloaded</source>
-            <translation>Tarnel: 1 個のファイルをダウンロードしました</translation>
+        <message numerus="yes">
+            <source>Tarnel: %n file(s) downloaded</source>
+            <translation>
+                <numerusform>Tarnel: %n 個のファイルをダウンロードしました</numerusform>
+            </translation>
         </message>
         <message>
             <source>Tarnel: Connection error</source>
@@ -1376,10 +1368,6 @@
             <translation>ユーザー名またはパスワードが違います</translation>
         </message>
         <message>
-            <source>attempts</source>
-            <translation>回試行しても失敗しました</translation>
-        </message>
-        <message>
             <source>dead.rule.warning</source>
             <translation>使われません: 前のルールがこれらのファイルをすでに受け取ります</translation>
         </message>
@@ -1419,17 +1407,11 @@
             <source>ext.unspecified.label</source>
             <translation>その他の拡張子</translation>
         </message>
-        <message>
-            <source>failed after</source>
-            <translation>は</translation>
-        </message>
-        <message>
-            <source>files</source>
-            <translation>ファイル</translation>
-        </message>
-        <message>
-            <source>files downloaded</source>
-            <translation>個のファイルをダウンロードしました</translation>
+        <message numerus="yes">
+            <source>failed after %n attempts</source>
+            <translation>
+                <numerusform>は %n 回試行しても失敗しました</numerusform>
+            </translation>
         </message>
         <message>
             <source>growing...</source>
@@ -1446,10 +1428,6 @@
         <message>
             <source>just now</source>
             <translation>たった今</translation>
-        </message>
-        <message>
-            <source>more</source>
-            <translation>件</translation>
         </message>
     </context>
 </TS>

@@ -12,60 +12,12 @@
             <translation> GB 남음</translation>
         </message>
         <message>
-            <source> active connections</source>
-            <translation>개의 활성 연결</translation>
-        </message>
-        <message>
-            <source> consecutive failures</source>
-            <translation>회 실패 후</translation>
-        </message>
-        <message>
-            <source> files</source>
-            <translation>개 파일</translation>
-        </message>
-        <message>
-            <source> folders selected</source>
-            <translation>개 폴더 선택됨</translation>
-        </message>
-        <message>
-            <source> minute</source>
-            <translation>분</translation>
-        </message>
-        <message>
-            <source> minutes</source>
-            <translation>분</translation>
-        </message>
-        <message>
-            <source> more downloading...</source>
-            <translation>개 다운로드 중...</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation>개 이상일 때만</translation>
-        </message>
-        <message>
-            <source> second</source>
-            <translation>초</translation>
-        </message>
-        <message>
-            <source> seconds</source>
-            <translation>초</translation>
-        </message>
-        <message>
-            <source> waiting for stability</source>
-            <translation>개 파일 크기 안정 대기 중</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>%@ 체크섬 불일치: 서버는 %@, 다운로드는 %@입니다. 파일은 배치되지 않았으며 서버에 남아 있고, 다시 다운로드됩니다.</translation>
         </message>
         <message>
             <source>%@ checksums</source>
             <translation>%@ 체크섬</translation>
-        </message>
-        <message>
-            <source>%lld files found</source>
-            <translation>파일 %lld개 찾음</translation>
         </message>
         <message>
             <source>%lld min ago</source>
@@ -83,6 +35,48 @@
             <source>%llds ago</source>
             <translation>%lld초 전</translation>
         </message>
+        <message numerus="yes">
+            <source>%n active connection(s)</source>
+            <translation>
+                <numerusform>%n개의 활성 연결</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s)</source>
+            <translation>
+                <numerusform>파일 %n개</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s) found</source>
+            <translation>
+                <numerusform>파일 %n개 찾음</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n folder(s) selected</source>
+            <translation>
+                <numerusform>폴더 %n개 선택됨</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s)</source>
+            <translation>
+                <numerusform>%n분</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n second(s)</source>
+            <translation>
+                <numerusform>%n초</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n waiting for stability</source>
+            <translation>
+                <numerusform>%n개 파일 크기 안정 대기 중</numerusform>
+            </translation>
+        </message>
         <message>
             <source>' has changes that were not applied.</source>
             <translation>’ 연결에 적용하지 않은 변경 사항이 있습니다.</translation>
@@ -95,33 +89,25 @@
             <source>*.2024.*</source>
             <translation>*.2024.*</translation>
         </message>
+        <message numerus="yes">
+            <source>+%n more downloading...</source>
+            <translation>
+                <numerusform>+%n개 다운로드 중...</numerusform>
+            </translation>
+        </message>
         <message>
             <source>. Do you want to continue?</source>
             <translation>’에 권장되는 값으로 덮어씁니다. 계속하시겠습니까?</translation>
         </message>
-        <message>
-            <source>...and</source>
-            <translation>...외</translation>
+        <message numerus="yes">
+            <source>...and %n more</source>
+            <translation>
+                <numerusform>...외 %n개</numerusform>
+            </translation>
         </message>
         <message>
             <source>1 MB/s</source>
             <translation>1 MB/s</translation>
-        </message>
-        <message>
-            <source>1 active connection</source>
-            <translation>1개의 활성 연결</translation>
-        </message>
-        <message>
-            <source>1 file</source>
-            <translation>파일 1개</translation>
-        </message>
-        <message>
-            <source>1 file found</source>
-            <translation>파일 1개 찾음</translation>
-        </message>
-        <message>
-            <source>1 folder selected</source>
-            <translation>폴더 1개 선택됨</translation>
         </message>
         <message>
             <source>1 minute</source>
@@ -219,9 +205,11 @@
             <source>Advanced Options</source>
             <translation>고급 옵션</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>연속 </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>연속 %n회 실패 후</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -847,9 +835,11 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>디스크 공간이 %@ GB밖에 남지 않았습니다. 다운로드를 계속하려면 공간을 확보하세요.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>파일이 </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>파일이 %n개 이상일 때만</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>
@@ -1263,9 +1253,11 @@
             <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
             <translation>이 창을 닫아도 Tarnel은 백그라운드에서 계속 실행됩니다. 다시 열려면 애플리케이션 메뉴에서 Tarnel을 실행하세요.</translation>
         </message>
-        <message>
-            <source>Tarnel: 1 file downloaded</source>
-            <translation>Tarnel: 파일 1개 다운로드됨</translation>
+        <message numerus="yes">
+            <source>Tarnel: %n file(s) downloaded</source>
+            <translation>
+                <numerusform>Tarnel: 파일 %n개 다운로드됨</numerusform>
+            </translation>
         </message>
         <message>
             <source>Tarnel: Connection error</source>
@@ -1376,10 +1368,6 @@
             <translation>사용자 이름 또는 암호가 틀렸습니다</translation>
         </message>
         <message>
-            <source>attempts</source>
-            <translation>회 시도 후 실패했습니다</translation>
-        </message>
-        <message>
             <source>dead.rule.warning</source>
             <translation>사용되지 않음: 앞의 규칙이 이 파일들을 이미 가져갑니다</translation>
         </message>
@@ -1419,17 +1407,11 @@
             <source>ext.unspecified.label</source>
             <translation>기타 확장자</translation>
         </message>
-        <message>
-            <source>failed after</source>
-            <translation>파일이</translation>
-        </message>
-        <message>
-            <source>files</source>
-            <translation>개 파일</translation>
-        </message>
-        <message>
-            <source>files downloaded</source>
-            <translation>개 파일 다운로드됨</translation>
+        <message numerus="yes">
+            <source>failed after %n attempts</source>
+            <translation>
+                <numerusform>파일이 %n회 시도 후 실패했습니다</numerusform>
+            </translation>
         </message>
         <message>
             <source>growing...</source>
@@ -1446,10 +1428,6 @@
         <message>
             <source>just now</source>
             <translation>방금</translation>
-        </message>
-        <message>
-            <source>more</source>
-            <translation>개</translation>
         </message>
     </context>
 </TS>

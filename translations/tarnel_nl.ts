@@ -12,60 +12,12 @@
             <translation> GB vrij</translation>
         </message>
         <message>
-            <source> active connections</source>
-            <translation> actieve verbindingen</translation>
-        </message>
-        <message>
-            <source> consecutive failures</source>
-            <translation> mislukte pogingen op rij</translation>
-        </message>
-        <message>
-            <source> files</source>
-            <translation> bestanden</translation>
-        </message>
-        <message>
-            <source> folders selected</source>
-            <translation> mappen geselecteerd</translation>
-        </message>
-        <message>
-            <source> minute</source>
-            <translation> minuut</translation>
-        </message>
-        <message>
-            <source> minutes</source>
-            <translation> minuten</translation>
-        </message>
-        <message>
-            <source> more downloading...</source>
-            <translation> meer worden gedownload...</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> of meer bestanden</translation>
-        </message>
-        <message>
-            <source> second</source>
-            <translation> seconde</translation>
-        </message>
-        <message>
-            <source> seconds</source>
-            <translation> seconden</translation>
-        </message>
-        <message>
-            <source> waiting for stability</source>
-            <translation> wachten op stabiliteit</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>%@-controlesom komt niet overeen: de server meldt %@, de download geeft %@. Het bestand is niet geplaatst en blijft op de server; het wordt opnieuw gedownload.</translation>
         </message>
         <message>
             <source>%@ checksums</source>
             <translation>%@-controlesommen</translation>
-        </message>
-        <message>
-            <source>%lld files found</source>
-            <translation>%lld bestanden gevonden</translation>
         </message>
         <message>
             <source>%lld min ago</source>
@@ -83,6 +35,55 @@
             <source>%llds ago</source>
             <translation>%lld s geleden</translation>
         </message>
+        <message numerus="yes">
+            <source>%n active connection(s)</source>
+            <translation>
+                <numerusform>%n actieve verbinding</numerusform>
+                <numerusform>%n actieve verbindingen</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s)</source>
+            <translation>
+                <numerusform>%n bestand</numerusform>
+                <numerusform>%n bestanden</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s) found</source>
+            <translation>
+                <numerusform>%n bestand gevonden</numerusform>
+                <numerusform>%n bestanden gevonden</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n folder(s) selected</source>
+            <translation>
+                <numerusform>%n map geselecteerd</numerusform>
+                <numerusform>%n mappen geselecteerd</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s)</source>
+            <translation>
+                <numerusform>%n minuut</numerusform>
+                <numerusform>%n minuten</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n second(s)</source>
+            <translation>
+                <numerusform>%n seconde</numerusform>
+                <numerusform>%n seconden</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n waiting for stability</source>
+            <translation>
+                <numerusform>%n wacht op stabiliteit</numerusform>
+                <numerusform>%n wachten op stabiliteit</numerusform>
+            </translation>
+        </message>
         <message>
             <source>' has changes that were not applied.</source>
             <translation>’ heeft wijzigingen die nog niet zijn toegepast.</translation>
@@ -95,33 +96,27 @@
             <source>*.2024.*</source>
             <translation>*.2024.*</translation>
         </message>
+        <message numerus="yes">
+            <source>+%n more downloading...</source>
+            <translation>
+                <numerusform>+%n wordt nog gedownload...</numerusform>
+                <numerusform>+%n worden nog gedownload...</numerusform>
+            </translation>
+        </message>
         <message>
             <source>. Do you want to continue?</source>
             <translation>. Wilt u doorgaan?</translation>
         </message>
-        <message>
-            <source>...and</source>
-            <translation>...en</translation>
+        <message numerus="yes">
+            <source>...and %n more</source>
+            <translation>
+                <numerusform>...en nog %n</numerusform>
+                <numerusform>...en nog %n</numerusform>
+            </translation>
         </message>
         <message>
             <source>1 MB/s</source>
             <translation>1 MB/s</translation>
-        </message>
-        <message>
-            <source>1 active connection</source>
-            <translation>1 actieve verbinding</translation>
-        </message>
-        <message>
-            <source>1 file</source>
-            <translation>1 bestand</translation>
-        </message>
-        <message>
-            <source>1 file found</source>
-            <translation>1 bestand gevonden</translation>
-        </message>
-        <message>
-            <source>1 folder selected</source>
-            <translation>1 map geselecteerd</translation>
         </message>
         <message>
             <source>1 minute</source>
@@ -219,9 +214,12 @@
             <source>Advanced Options</source>
             <translation>Geavanceerde opties</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Na </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Na %n mislukte poging</numerusform>
+                <numerusform>Na %n mislukte pogingen op rij</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -847,9 +845,12 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Nog maar %@ GB schijfruimte over. Maak ruimte vrij om verder te downloaden.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Alleen bij </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Alleen bij %n of meer bestanden</numerusform>
+                <numerusform>Alleen bij %n of meer bestanden</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>
@@ -1263,9 +1264,12 @@
             <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
             <translation>Tarnel blijft op de achtergrond draaien als u dit venster sluit. Start Tarnel opnieuw vanuit het toepassingenmenu om het weer te openen.</translation>
         </message>
-        <message>
-            <source>Tarnel: 1 file downloaded</source>
-            <translation>Tarnel: 1 bestand gedownload</translation>
+        <message numerus="yes">
+            <source>Tarnel: %n file(s) downloaded</source>
+            <translation>
+                <numerusform>Tarnel: %n bestand gedownload</numerusform>
+                <numerusform>Tarnel: %n bestanden gedownload</numerusform>
+            </translation>
         </message>
         <message>
             <source>Tarnel: Connection error</source>
@@ -1376,10 +1380,6 @@
             <translation>Verkeerde gebruikersnaam of wachtwoord</translation>
         </message>
         <message>
-            <source>attempts</source>
-            <translation>pogingen</translation>
-        </message>
-        <message>
             <source>dead.rule.warning</source>
             <translation>Nooit gebruikt: een eerdere regel neemt deze bestanden al</translation>
         </message>
@@ -1419,17 +1419,12 @@
             <source>ext.unspecified.label</source>
             <translation>Overige extensies</translation>
         </message>
-        <message>
-            <source>failed after</source>
-            <translation>mislukt na</translation>
-        </message>
-        <message>
-            <source>files</source>
-            <translation>bestanden</translation>
-        </message>
-        <message>
-            <source>files downloaded</source>
-            <translation>bestanden gedownload</translation>
+        <message numerus="yes">
+            <source>failed after %n attempts</source>
+            <translation>
+                <numerusform>mislukt na %n poging</numerusform>
+                <numerusform>mislukt na %n pogingen</numerusform>
+            </translation>
         </message>
         <message>
             <source>growing...</source>
@@ -1446,10 +1441,6 @@
         <message>
             <source>just now</source>
             <translation>zojuist</translation>
-        </message>
-        <message>
-            <source>more</source>
-            <translation>meer</translation>
         </message>
     </context>
 </TS>

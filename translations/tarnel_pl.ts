@@ -12,60 +12,12 @@
             <translation> GB wolne</translation>
         </message>
         <message>
-            <source> active connections</source>
-            <translation> aktywne połączenia</translation>
-        </message>
-        <message>
-            <source> consecutive failures</source>
-            <translation> nieudanych próbach z rzędu</translation>
-        </message>
-        <message>
-            <source> files</source>
-            <translation> plików</translation>
-        </message>
-        <message>
-            <source> folders selected</source>
-            <translation> wybranych folderów</translation>
-        </message>
-        <message>
-            <source> minute</source>
-            <translation> min</translation>
-        </message>
-        <message>
-            <source> minutes</source>
-            <translation> min</translation>
-        </message>
-        <message>
-            <source> more downloading...</source>
-            <translation> w trakcie pobierania...</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> lub więcej plikach</translation>
-        </message>
-        <message>
-            <source> second</source>
-            <translation> s</translation>
-        </message>
-        <message>
-            <source> seconds</source>
-            <translation> s</translation>
-        </message>
-        <message>
-            <source> waiting for stability</source>
-            <translation> w oczekiwaniu na stabilizację</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>Niezgodna suma kontrolna %@: serwer podaje %@, pobrany plik daje %@. Plik nie został umieszczony i pozostaje na serwerze; zostanie pobrany ponownie.</translation>
         </message>
         <message>
             <source>%@ checksums</source>
             <translation>Sumy kontrolne %@</translation>
-        </message>
-        <message>
-            <source>%lld files found</source>
-            <translation>Znalezione pliki: %lld</translation>
         </message>
         <message>
             <source>%lld min ago</source>
@@ -83,6 +35,62 @@
             <source>%llds ago</source>
             <translation>%lld s temu</translation>
         </message>
+        <message numerus="yes">
+            <source>%n active connection(s)</source>
+            <translation>
+                <numerusform>%n aktywne połączenie</numerusform>
+                <numerusform>%n aktywne połączenia</numerusform>
+                <numerusform>%n aktywnych połączeń</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s)</source>
+            <translation>
+                <numerusform>%n plik</numerusform>
+                <numerusform>%n pliki</numerusform>
+                <numerusform>%n plików</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s) found</source>
+            <translation>
+                <numerusform>Znaleziono %n plik</numerusform>
+                <numerusform>Znaleziono %n pliki</numerusform>
+                <numerusform>Znaleziono %n plików</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n folder(s) selected</source>
+            <translation>
+                <numerusform>Wybrano %n folder</numerusform>
+                <numerusform>Wybrano %n foldery</numerusform>
+                <numerusform>Wybrano %n folderów</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s)</source>
+            <translation>
+                <numerusform>%n min</numerusform>
+                <numerusform>%n min</numerusform>
+                <numerusform>%n min</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n second(s)</source>
+            <translation>
+                <numerusform>%n s</numerusform>
+                <numerusform>%n s</numerusform>
+                <numerusform>%n s</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n waiting for stability</source>
+            <translation>
+                <numerusform>%n plik czeka na stabilizację</numerusform>
+                <numerusform>%n pliki czekają na stabilizację</numerusform>
+                <numerusform>%n plików czeka na stabilizację</numerusform>
+            </translation>
+        </message>
         <message>
             <source>' has changes that were not applied.</source>
             <translation>” ma niezastosowane zmiany.</translation>
@@ -95,33 +103,29 @@
             <source>*.2024.*</source>
             <translation>*.2024.*</translation>
         </message>
+        <message numerus="yes">
+            <source>+%n more downloading...</source>
+            <translation>
+                <numerusform>+%n plik pobiera się...</numerusform>
+                <numerusform>+%n pliki pobierają się...</numerusform>
+                <numerusform>+%n plików pobiera się...</numerusform>
+            </translation>
+        </message>
         <message>
             <source>. Do you want to continue?</source>
             <translation>. Czy kontynuować?</translation>
         </message>
-        <message>
-            <source>...and</source>
-            <translation>...i</translation>
+        <message numerus="yes">
+            <source>...and %n more</source>
+            <translation>
+                <numerusform>...i jeszcze %n plik</numerusform>
+                <numerusform>...i jeszcze %n pliki</numerusform>
+                <numerusform>...i jeszcze %n plików</numerusform>
+            </translation>
         </message>
         <message>
             <source>1 MB/s</source>
             <translation>1 MB/s</translation>
-        </message>
-        <message>
-            <source>1 active connection</source>
-            <translation>1 aktywne połączenie</translation>
-        </message>
-        <message>
-            <source>1 file</source>
-            <translation>1 plik</translation>
-        </message>
-        <message>
-            <source>1 file found</source>
-            <translation>Znaleziono 1 plik</translation>
-        </message>
-        <message>
-            <source>1 folder selected</source>
-            <translation>Wybrano 1 folder</translation>
         </message>
         <message>
             <source>1 minute</source>
@@ -219,9 +223,13 @@
             <source>Advanced Options</source>
             <translation>Opcje zaawansowane</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Po </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Po %n nieudanej próbie</numerusform>
+                <numerusform>Po %n nieudanych próbach z rzędu</numerusform>
+                <numerusform>Po %n nieudanych próbach z rzędu</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -847,9 +855,13 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Zostało tylko %@ GB miejsca na dysku. Zwolnij miejsce, aby pobierać dalej.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Tylko przy </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Tylko przy %n lub więcej plikach</numerusform>
+                <numerusform>Tylko przy %n lub więcej plikach</numerusform>
+                <numerusform>Tylko przy %n lub więcej plikach</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>
@@ -1263,9 +1275,13 @@
             <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
             <translation>Tarnel działa dalej w tle po zamknięciu tego okna. Aby je ponownie otworzyć, uruchom Tarnel z menu aplikacji.</translation>
         </message>
-        <message>
-            <source>Tarnel: 1 file downloaded</source>
-            <translation>Tarnel: pobrano 1 plik</translation>
+        <message numerus="yes">
+            <source>Tarnel: %n file(s) downloaded</source>
+            <translation>
+                <numerusform>Tarnel: pobrano %n plik</numerusform>
+                <numerusform>Tarnel: pobrano %n pliki</numerusform>
+                <numerusform>Tarnel: pobrano %n plików</numerusform>
+            </translation>
         </message>
         <message>
             <source>Tarnel: Connection error</source>
@@ -1376,10 +1392,6 @@
             <translation>Nieprawidłowa nazwa użytkownika lub hasło</translation>
         </message>
         <message>
-            <source>attempts</source>
-            <translation>próbach</translation>
-        </message>
-        <message>
             <source>dead.rule.warning</source>
             <translation>Nigdy nieużywana: wcześniejsza reguła już obejmuje te pliki</translation>
         </message>
@@ -1419,17 +1431,13 @@
             <source>ext.unspecified.label</source>
             <translation>Inne rozszerzenia</translation>
         </message>
-        <message>
-            <source>failed after</source>
-            <translation>— niepowodzenie po</translation>
-        </message>
-        <message>
-            <source>files</source>
-            <translation>plików</translation>
-        </message>
-        <message>
-            <source>files downloaded</source>
-            <translation>pobranych plików</translation>
+        <message numerus="yes">
+            <source>failed after %n attempts</source>
+            <translation>
+                <numerusform>— niepowodzenie po %n próbie</numerusform>
+                <numerusform>— niepowodzenie po %n próbach</numerusform>
+                <numerusform>— niepowodzenie po %n próbach</numerusform>
+            </translation>
         </message>
         <message>
             <source>growing...</source>
@@ -1446,10 +1454,6 @@
         <message>
             <source>just now</source>
             <translation>przed chwilą</translation>
-        </message>
-        <message>
-            <source>more</source>
-            <translation>więcej</translation>
         </message>
     </context>
 </TS>

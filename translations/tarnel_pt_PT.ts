@@ -12,60 +12,12 @@
             <translation> GB livres</translation>
         </message>
         <message>
-            <source> active connections</source>
-            <translation> ligações ativas</translation>
-        </message>
-        <message>
-            <source> consecutive failures</source>
-            <translation> falhas consecutivas</translation>
-        </message>
-        <message>
-            <source> files</source>
-            <translation> ficheiros</translation>
-        </message>
-        <message>
-            <source> folders selected</source>
-            <translation> pastas selecionadas</translation>
-        </message>
-        <message>
-            <source> minute</source>
-            <translation> minuto</translation>
-        </message>
-        <message>
-            <source> minutes</source>
-            <translation> minutos</translation>
-        </message>
-        <message>
-            <source> more downloading...</source>
-            <translation> mais a transferir...</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> ou mais ficheiros</translation>
-        </message>
-        <message>
-            <source> second</source>
-            <translation> segundo</translation>
-        </message>
-        <message>
-            <source> seconds</source>
-            <translation> segundos</translation>
-        </message>
-        <message>
-            <source> waiting for stability</source>
-            <translation> à espera de estabilidade</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>A soma de verificação %@ não coincide: o servidor indica %@, a transferência dá %@. O ficheiro não foi colocado e permanece no servidor; será transferido novamente.</translation>
         </message>
         <message>
             <source>%@ checksums</source>
             <translation>Somas de verificação %@</translation>
-        </message>
-        <message>
-            <source>%lld files found</source>
-            <translation>%lld ficheiros encontrados</translation>
         </message>
         <message>
             <source>%lld min ago</source>
@@ -83,6 +35,55 @@
             <source>%llds ago</source>
             <translation>há %lld s</translation>
         </message>
+        <message numerus="yes">
+            <source>%n active connection(s)</source>
+            <translation>
+                <numerusform>%n ligação ativa</numerusform>
+                <numerusform>%n ligações ativas</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s)</source>
+            <translation>
+                <numerusform>%n ficheiro</numerusform>
+                <numerusform>%n ficheiros</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s) found</source>
+            <translation>
+                <numerusform>%n ficheiro encontrado</numerusform>
+                <numerusform>%n ficheiros encontrados</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n folder(s) selected</source>
+            <translation>
+                <numerusform>%n pasta selecionada</numerusform>
+                <numerusform>%n pastas selecionadas</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s)</source>
+            <translation>
+                <numerusform>%n minuto</numerusform>
+                <numerusform>%n minutos</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n second(s)</source>
+            <translation>
+                <numerusform>%n segundo</numerusform>
+                <numerusform>%n segundos</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n waiting for stability</source>
+            <translation>
+                <numerusform>%n à espera de estabilidade</numerusform>
+                <numerusform>%n à espera de estabilidade</numerusform>
+            </translation>
+        </message>
         <message>
             <source>' has changes that were not applied.</source>
             <translation>» tem alterações por aplicar.</translation>
@@ -95,33 +96,27 @@
             <source>*.2024.*</source>
             <translation>*.2024.*</translation>
         </message>
+        <message numerus="yes">
+            <source>+%n more downloading...</source>
+            <translation>
+                <numerusform>+%n mais a transferir...</numerusform>
+                <numerusform>+%n mais a transferir...</numerusform>
+            </translation>
+        </message>
         <message>
             <source>. Do you want to continue?</source>
             <translation>. Pretende continuar?</translation>
         </message>
-        <message>
-            <source>...and</source>
-            <translation>...e</translation>
+        <message numerus="yes">
+            <source>...and %n more</source>
+            <translation>
+                <numerusform>...e mais %n</numerusform>
+                <numerusform>...e mais %n</numerusform>
+            </translation>
         </message>
         <message>
             <source>1 MB/s</source>
             <translation>1 MB/s</translation>
-        </message>
-        <message>
-            <source>1 active connection</source>
-            <translation>1 ligação ativa</translation>
-        </message>
-        <message>
-            <source>1 file</source>
-            <translation>1 ficheiro</translation>
-        </message>
-        <message>
-            <source>1 file found</source>
-            <translation>1 ficheiro encontrado</translation>
-        </message>
-        <message>
-            <source>1 folder selected</source>
-            <translation>1 pasta selecionada</translation>
         </message>
         <message>
             <source>1 minute</source>
@@ -219,9 +214,12 @@
             <source>Advanced Options</source>
             <translation>Opções avançadas</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Após </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Após %n falha</numerusform>
+                <numerusform>Após %n falhas consecutivas</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -847,9 +845,12 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Restam apenas %@ GB de espaço em disco. Liberte espaço para continuar a transferir.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Apenas se houver </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Apenas se houver %n ou mais ficheiros</numerusform>
+                <numerusform>Apenas se houver %n ou mais ficheiros</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>
@@ -1263,9 +1264,12 @@
             <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
             <translation>O Tarnel continua a funcionar em segundo plano quando fecha esta janela. Para a voltar a abrir, inicie o Tarnel a partir do menu de aplicações.</translation>
         </message>
-        <message>
-            <source>Tarnel: 1 file downloaded</source>
-            <translation>Tarnel: 1 ficheiro transferido</translation>
+        <message numerus="yes">
+            <source>Tarnel: %n file(s) downloaded</source>
+            <translation>
+                <numerusform>Tarnel: %n ficheiro transferido</numerusform>
+                <numerusform>Tarnel: %n ficheiros transferidos</numerusform>
+            </translation>
         </message>
         <message>
             <source>Tarnel: Connection error</source>
@@ -1376,10 +1380,6 @@
             <translation>Nome de utilizador ou palavra-passe incorretos</translation>
         </message>
         <message>
-            <source>attempts</source>
-            <translation>tentativas</translation>
-        </message>
-        <message>
             <source>dead.rule.warning</source>
             <translation>Nunca usada: uma regra anterior já apanha estes ficheiros</translation>
         </message>
@@ -1419,17 +1419,12 @@
             <source>ext.unspecified.label</source>
             <translation>Outras extensões</translation>
         </message>
-        <message>
-            <source>failed after</source>
-            <translation>falhou após</translation>
-        </message>
-        <message>
-            <source>files</source>
-            <translation>ficheiros</translation>
-        </message>
-        <message>
-            <source>files downloaded</source>
-            <translation>ficheiros transferidos</translation>
+        <message numerus="yes">
+            <source>failed after %n attempts</source>
+            <translation>
+                <numerusform>falhou após %n tentativa</numerusform>
+                <numerusform>falhou após %n tentativas</numerusform>
+            </translation>
         </message>
         <message>
             <source>growing...</source>
@@ -1446,10 +1441,6 @@
         <message>
             <source>just now</source>
             <translation>agora mesmo</translation>
-        </message>
-        <message>
-            <source>more</source>
-            <translation>mais</translation>
         </message>
     </context>
 </TS>

@@ -12,60 +12,12 @@
             <translation> GB boş</translation>
         </message>
         <message>
-            <source> active connections</source>
-            <translation> etkin bağlantı</translation>
-        </message>
-        <message>
-            <source> consecutive failures</source>
-            <translation> başarısızlıktan sonra</translation>
-        </message>
-        <message>
-            <source> files</source>
-            <translation> dosya</translation>
-        </message>
-        <message>
-            <source> folders selected</source>
-            <translation> klasör seçildi</translation>
-        </message>
-        <message>
-            <source> minute</source>
-            <translation> dakika</translation>
-        </message>
-        <message>
-            <source> minutes</source>
-            <translation> dakika</translation>
-        </message>
-        <message>
-            <source> more downloading...</source>
-            <translation> tane daha indiriliyor...</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> veya daha fazla dosya varsa</translation>
-        </message>
-        <message>
-            <source> second</source>
-            <translation> saniye</translation>
-        </message>
-        <message>
-            <source> seconds</source>
-            <translation> saniye</translation>
-        </message>
-        <message>
-            <source> waiting for stability</source>
-            <translation> dosya sabitlenmeyi bekliyor</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>%@ sağlama toplamı uyuşmuyor: sunucu %@ diyor, indirme %@ veriyor. Dosya yerleştirilmedi ve sunucuda kalıyor; yeniden indirilecek.</translation>
         </message>
         <message>
             <source>%@ checksums</source>
             <translation>%@ sağlama toplamları</translation>
-        </message>
-        <message>
-            <source>%lld files found</source>
-            <translation>%lld dosya bulundu</translation>
         </message>
         <message>
             <source>%lld min ago</source>
@@ -83,6 +35,48 @@
             <source>%llds ago</source>
             <translation>%lld sn önce</translation>
         </message>
+        <message numerus="yes">
+            <source>%n active connection(s)</source>
+            <translation>
+                <numerusform>%n etkin bağlantı</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s)</source>
+            <translation>
+                <numerusform>%n dosya</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s) found</source>
+            <translation>
+                <numerusform>%n dosya bulundu</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n folder(s) selected</source>
+            <translation>
+                <numerusform>%n klasör seçildi</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s)</source>
+            <translation>
+                <numerusform>%n dakika</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n second(s)</source>
+            <translation>
+                <numerusform>%n saniye</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n waiting for stability</source>
+            <translation>
+                <numerusform>%n dosya sabitlenmeyi bekliyor</numerusform>
+            </translation>
+        </message>
         <message>
             <source>' has changes that were not applied.</source>
             <translation>’ bağlantısında uygulanmamış değişiklikler var.</translation>
@@ -95,33 +89,25 @@
             <source>*.2024.*</source>
             <translation>*.2024.*</translation>
         </message>
+        <message numerus="yes">
+            <source>+%n more downloading...</source>
+            <translation>
+                <numerusform>+%n tane daha indiriliyor...</numerusform>
+            </translation>
+        </message>
         <message>
             <source>. Do you want to continue?</source>
             <translation>. Devam etmek istiyor musunuz?</translation>
         </message>
-        <message>
-            <source>...and</source>
-            <translation>...ve</translation>
+        <message numerus="yes">
+            <source>...and %n more</source>
+            <translation>
+                <numerusform>...ve %n dosya daha</numerusform>
+            </translation>
         </message>
         <message>
             <source>1 MB/s</source>
             <translation>1 MB/sn</translation>
-        </message>
-        <message>
-            <source>1 active connection</source>
-            <translation>1 etkin bağlantı</translation>
-        </message>
-        <message>
-            <source>1 file</source>
-            <translation>1 dosya</translation>
-        </message>
-        <message>
-            <source>1 file found</source>
-            <translation>1 dosya bulundu</translation>
-        </message>
-        <message>
-            <source>1 folder selected</source>
-            <translation>1 klasör seçildi</translation>
         </message>
         <message>
             <source>1 minute</source>
@@ -219,9 +205,11 @@
             <source>Advanced Options</source>
             <translation>Gelişmiş Seçenekler</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>Art arda </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>Art arda %n başarısızlıktan sonra</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -847,9 +835,11 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>Yalnızca %@ GB disk alanı kaldı. İndirmeye devam etmek için yer açın.</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>Yalnızca </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>Yalnızca %n veya daha fazla dosya varsa</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>
@@ -1263,9 +1253,11 @@
             <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
             <translation>Bu pencereyi kapattığınızda Tarnel arka planda çalışmaya devam eder. Yeniden açmak için Tarnel'i uygulamalar menüsünden başlatın.</translation>
         </message>
-        <message>
-            <source>Tarnel: 1 file downloaded</source>
-            <translation>Tarnel: 1 dosya indirildi</translation>
+        <message numerus="yes">
+            <source>Tarnel: %n file(s) downloaded</source>
+            <translation>
+                <numerusform>Tarnel: %n dosya indirildi</numerusform>
+            </translation>
         </message>
         <message>
             <source>Tarnel: Connection error</source>
@@ -1376,10 +1368,6 @@
             <translation>Yanlış kullanıcı adı veya parola</translation>
         </message>
         <message>
-            <source>attempts</source>
-            <translation>denemeden sonra indirilemedi</translation>
-        </message>
-        <message>
             <source>dead.rule.warning</source>
             <translation>Hiç kullanılmaz: önceki bir kural bu dosyaları zaten alıyor</translation>
         </message>
@@ -1419,17 +1407,11 @@
             <source>ext.unspecified.label</source>
             <translation>Diğer uzantılar</translation>
         </message>
-        <message>
-            <source>failed after</source>
-            <translation>dosyası</translation>
-        </message>
-        <message>
-            <source>files</source>
-            <translation>dosya</translation>
-        </message>
-        <message>
-            <source>files downloaded</source>
-            <translation>dosya indirildi</translation>
+        <message numerus="yes">
+            <source>failed after %n attempts</source>
+            <translation>
+                <numerusform>dosyası %n denemeden sonra indirilemedi</numerusform>
+            </translation>
         </message>
         <message>
             <source>growing...</source>
@@ -1446,10 +1428,6 @@
         <message>
             <source>just now</source>
             <translation>az önce</translation>
-        </message>
-        <message>
-            <source>more</source>
-            <translation>dosya daha</translation>
         </message>
     </context>
 </TS>

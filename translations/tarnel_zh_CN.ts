@@ -12,60 +12,12 @@
             <translation> GB 可用</translation>
         </message>
         <message>
-            <source> active connections</source>
-            <translation> 个活动连接</translation>
-        </message>
-        <message>
-            <source> consecutive failures</source>
-            <translation> 次失败后</translation>
-        </message>
-        <message>
-            <source> files</source>
-            <translation> 个文件</translation>
-        </message>
-        <message>
-            <source> folders selected</source>
-            <translation> 个文件夹已选中</translation>
-        </message>
-        <message>
-            <source> minute</source>
-            <translation> 分钟</translation>
-        </message>
-        <message>
-            <source> minutes</source>
-            <translation> 分钟</translation>
-        </message>
-        <message>
-            <source> more downloading...</source>
-            <translation> 个正在下载...</translation>
-        </message>
-        <message>
-            <source> or more files</source>
-            <translation> 个及以上时</translation>
-        </message>
-        <message>
-            <source> second</source>
-            <translation> 秒</translation>
-        </message>
-        <message>
-            <source> seconds</source>
-            <translation> 秒</translation>
-        </message>
-        <message>
-            <source> waiting for stability</source>
-            <translation> 个等待大小稳定</translation>
-        </message>
-        <message>
             <source>%@ checksum mismatch: the server says %@, the download gives %@. The file was not placed and stays on the server; it will be downloaded again.</source>
             <translation>%@ 校验和不匹配：服务器为 %@，下载结果为 %@。文件未放置，仍保留在服务器上；将重新下载。</translation>
         </message>
         <message>
             <source>%@ checksums</source>
             <translation>%@ 校验和</translation>
-        </message>
-        <message>
-            <source>%lld files found</source>
-            <translation>找到 %lld 个文件</translation>
         </message>
         <message>
             <source>%lld min ago</source>
@@ -83,6 +35,48 @@
             <source>%llds ago</source>
             <translation>%lld 秒前</translation>
         </message>
+        <message numerus="yes">
+            <source>%n active connection(s)</source>
+            <translation>
+                <numerusform>%n 个活动连接</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s)</source>
+            <translation>
+                <numerusform>%n 个文件</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n file(s) found</source>
+            <translation>
+                <numerusform>找到 %n 个文件</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n folder(s) selected</source>
+            <translation>
+                <numerusform>%n 个文件夹已选中</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s)</source>
+            <translation>
+                <numerusform>%n 分钟</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n second(s)</source>
+            <translation>
+                <numerusform>%n 秒</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n waiting for stability</source>
+            <translation>
+                <numerusform>%n 个等待大小稳定</numerusform>
+            </translation>
+        </message>
         <message>
             <source>' has changes that were not applied.</source>
             <translation>”有尚未应用的更改。</translation>
@@ -95,33 +89,25 @@
             <source>*.2024.*</source>
             <translation>*.2024.*</translation>
         </message>
+        <message numerus="yes">
+            <source>+%n more downloading...</source>
+            <translation>
+                <numerusform>+%n 个正在下载...</numerusform>
+            </translation>
+        </message>
         <message>
             <source>. Do you want to continue?</source>
             <translation>”的推荐值覆盖。要继续吗？</translation>
         </message>
-        <message>
-            <source>...and</source>
-            <translation>...以及另外</translation>
+        <message numerus="yes">
+            <source>...and %n more</source>
+            <translation>
+                <numerusform>...以及另外 %n 个</numerusform>
+            </translation>
         </message>
         <message>
             <source>1 MB/s</source>
             <translation>1 MB/s</translation>
-        </message>
-        <message>
-            <source>1 active connection</source>
-            <translation>1 个活动连接</translation>
-        </message>
-        <message>
-            <source>1 file</source>
-            <translation>1 个文件</translation>
-        </message>
-        <message>
-            <source>1 file found</source>
-            <translation>找到 1 个文件</translation>
-        </message>
-        <message>
-            <source>1 folder selected</source>
-            <translation>1 个文件夹已选中</translation>
         </message>
         <message>
             <source>1 minute</source>
@@ -219,9 +205,11 @@
             <source>Advanced Options</source>
             <translation>高级选项</translation>
         </message>
-        <message>
-            <source>After </source>
-            <translation>连续 </translation>
+        <message numerus="yes">
+            <source>After %n consecutive failures</source>
+            <translation>
+                <numerusform>连续 %n 次失败后</numerusform>
+            </translation>
         </message>
         <message>
             <source>Agency / Creative</source>
@@ -847,9 +835,11 @@
             <source>Only %@ GB of disk space remaining. Free up space to continue downloading.</source>
             <translation>磁盘空间仅剩 %@ GB。请释放空间以继续下载。</translation>
         </message>
-        <message>
-            <source>Only if </source>
-            <translation>仅当文件达到 </translation>
+        <message numerus="yes">
+            <source>Only if %n or more files</source>
+            <translation>
+                <numerusform>仅当文件达到 %n 个及以上时</numerusform>
+            </translation>
         </message>
         <message>
             <source>Only last folder level</source>
@@ -1263,9 +1253,11 @@
             <source>Tarnel keeps running in the background when you close this window. To open it again, launch Tarnel from the applications menu.</source>
             <translation>关闭此窗口后，Tarnel 会继续在后台运行。要再次打开它，请从应用程序菜单启动 Tarnel。</translation>
         </message>
-        <message>
-            <source>Tarnel: 1 file downloaded</source>
-            <translation>Tarnel: 已下载 1 个文件</translation>
+        <message numerus="yes">
+            <source>Tarnel: %n file(s) downloaded</source>
+            <translation>
+                <numerusform>Tarnel: 已下载 %n 个文件</numerusform>
+            </translation>
         </message>
         <message>
             <source>Tarnel: Connection error</source>
@@ -1376,10 +1368,6 @@
             <translation>用户名或密码错误</translation>
         </message>
         <message>
-            <source>attempts</source>
-            <translation>次尝试后失败</translation>
-        </message>
-        <message>
             <source>dead.rule.warning</source>
             <translation>从不使用: 前面的规则已经接收这些文件</translation>
         </message>
@@ -1419,17 +1407,11 @@
             <source>ext.unspecified.label</source>
             <translation>其他扩展名</translation>
         </message>
-        <message>
-            <source>failed after</source>
-            <translation>在</translation>
-        </message>
-        <message>
-            <source>files</source>
-            <translation>个文件</translation>
-        </message>
-        <message>
-            <source>files downloaded</source>
-            <translation>个文件已下载</translation>
+        <message numerus="yes">
+            <source>failed after %n attempts</source>
+            <translation>
+                <numerusform>在 %n 次尝试后失败</numerusform>
+            </translation>
         </message>
         <message>
             <source>growing...</source>
@@ -1446,10 +1428,6 @@
         <message>
             <source>just now</source>
             <translation>刚刚</translation>
-        </message>
-        <message>
-            <source>more</source>
-            <translation>个</translation>
         </message>
     </context>
 </TS>

@@ -11,8 +11,9 @@ namespace tarnel {
 namespace {
 
 // The core's texts share the shell's table.
-std::string translated(std::string_view key) {
-    return QCoreApplication::translate("tarnel", std::string(key).c_str()).toStdString();
+std::string translated(std::string_view key, int count) {
+    return QCoreApplication::translate("tarnel", std::string(key).c_str(), nullptr, count)
+        .toStdString();
 }
 
 }  // namespace

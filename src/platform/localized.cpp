@@ -25,6 +25,17 @@ std::string_view englishOf(std::string_view key) {
     return found == english.end() ? key : found->second;
 }
 
+// `text` with every `from` replaced by `to`.
+std::string replaced(std::string_view text, std::string_view from, std::string_view to) {
+    std::string out;
+    std::size_t start = 0;
+    for (auto at = text.find(from); at != std::string_view::npos; at = text.find(from, start)) {
+        out.append(text, start, at - start).append(to);
+        start = at + from.size();
+    }
+    return out.append(text.substr(start));
+}
+
 }  // namespace
 
 void setTextLookup(TextLookup lookup) {
@@ -32,8 +43,17 @@ void setTextLookup(TextLookup lookup) {
 }
 
 std::string localized(std::string_view key) {
-    std::string text = installedLookup ? installedLookup(key) : std::string(key);
+    std::string text = installedLookup ? installedLookup(key, -1) : std::string(key);
     return text == key ? std::string(englishOf(key)) : text;
+}
+
+std::string localizedCount(std::string_view key, int count) {
+    const std::string untranslated = replaced(key, "%n", std::to_string(count));
+    if (installedLookup) {
+        std::string text = installedLookup(key, count);
+        if (text != untranslated) return text;
+    }
+    return replaced(untranslated, "(s)", count == 1 ? "" : "s");
 }
 
 std::string localizedFormat(std::string_view key, std::initializer_list<std::string> args) {

@@ -43,8 +43,7 @@ void NotificationService::notifyNewFolder(const std::string& connection,
 void NotificationService::notifyTransferFailed(const std::string& connection,
                                                const std::string& file, int attempts) {
     post(Uuid::random().toString(), localized("Tarnel: Transfer failed"),
-         tagged(connection, file + " " + localized("failed after") + " " +
-                                std::to_string(attempts) + " " + localized("attempts")));
+         tagged(connection, file + " " + localizedCount("failed after %n attempts", attempts)));
 }
 
 void NotificationService::notifyDownloaded(const std::vector<std::string>& names,
@@ -53,20 +52,18 @@ void NotificationService::notifyDownloaded(const std::vector<std::string>& names
     if (n < static_cast<std::size_t>(std::max(1, settings_.notifyMinFileCount())))
         return;
 
-    const std::string title =
-        n == 1 ? localized("Tarnel: 1 file downloaded")
-               : "Tarnel: " + std::to_string(n) + " " + localized("files downloaded");
+    const int count = static_cast<int>(n);
+    const std::string title = localizedCount("Tarnel: %n file(s) downloaded", count);
     std::string body;
     if (settings_.groupNotifications() && n >= 2) {
-        body = tagged(connection, std::to_string(n) + " " + localized("files") + " (" +
+        body = tagged(connection, localizedCount("%n file(s)", count) + " (" +
                                       formatFileByteCount(totalBytes) + ")");
     } else {
         body = "[" + connection + "] ";
         for (std::size_t i = 0; i < std::min(n, listedNames); ++i)
             body += (i ? "\n" : "") + names[i];
         if (n > listedNames)
-            body += "\n" + localized("...and") + " " + std::to_string(n - listedNames) + " " +
-                    localized("more");
+            body += "\n" + localizedCount("...and %n more", count - static_cast<int>(listedNames));
     }
     post(Uuid::random().toString(), title, body, settings_.playSoundOnDownload());
 }

@@ -33,9 +33,7 @@ std::optional<TimePoint> readLastActivity(const SettingsStore& store) {
 
 std::string summary(int files, std::int64_t bytes) {
     const auto size = StatsService::formatBytes(bytes);
-    if (files == 1)
-        return localized("1 file") + " (" + size + ")";
-    return std::to_string(files) + " " + localized("files") + " (" + size + ")";
+    return localizedCount("%n file(s)", files) + " (" + size + ")";
 }
 
 }  // namespace

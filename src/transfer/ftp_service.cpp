@@ -333,9 +333,7 @@ int FTPService::testConnectionSteps(const TestProgress& progress) {
         failRow(3, localizedFormat("Folder not accessible: %@", {config_.remotePath}));
         throw;
     }
-    set(3, TestStepStatus::success,
-        count == 1 ? localized("1 file found")
-                   : localizedFormat("%lld files found", {std::to_string(count)}));
+    set(3, TestStepStatus::success, localizedCount("%n file(s) found", static_cast<int>(count)));
 
     set(4, TestStepStatus::running);
     try {

@@ -17,7 +17,11 @@
 #include "platform/localized.h"
 #include "platform/qt/qt_settings_store.h"
 #include "records/app_settings.h"
+#include "shell/editor/editor_texts.h"
+#include "shell/popover/popover_texts.h"
 #include "shell/settings/general_settings_tab.h"
+#include "shell/settings/notifications_settings_tab.h"
+#include "recording_notifier.h"
 #include "temporary_paths.h"
 
 namespace tarnel {
@@ -123,8 +127,55 @@ TEST(Language, ALanguageWithoutTranslationsStaysInEnglish) {
                           QStringLiteral("Images")});
 }
 
+// A count takes the form that its language gives it: Polish has three (1; 2-4, 22-24, ...; 5-21,
+// 25-31, ...), French counts 0 as one, a language without translations has English's two. A
+// stepper's words follow its number as it changes.
+TEST(Language, CountsTakeTheirLanguagesForms) {
+    struct Count {
+        int n;
+        const char *connections, *folders, *failures;
+    };
+    const std::vector<std::pair<std::string, std::vector<Count>>> languages = {
+        {"pl",
+         {{1, "1 aktywne połączenie", "Wybrano 1 folder", "Po 1 nieudanej próbie"},
+          {2, "2 aktywne połączenia", "Wybrano 2 foldery", "Po 2 nieudanych próbach z rzędu"},
+          {5, "5 aktywnych połączeń", "Wybrano 5 folderów", "Po 5 nieudanych próbach z rzędu"},
+          {12, "12 aktywnych połączeń", "Wybrano 12 folderów", nullptr},
+          {22, "22 aktywne połączenia", "Wybrano 22 foldery", nullptr}}},
+        {"fr",
+         {{0, nullptr, "0 dossier sélectionné", nullptr},
+          {2, "2 connexions actives", "2 dossiers sélectionnés", "Après 2 échecs consécutifs"}}},
+        {"sv",
+         {{1, "1 active connection", "1 folder selected", "After 1 consecutive failures"},
+          {5, "5 active connections", "5 folders selected", "After 5 consecutive failures"}}},
+    };
+    for (const auto& [code, counts] : languages) {
+        QTemporaryDir dir;
+        const auto paths = pathsIn(dir);
+        chooseLanguage(paths, code);
+        const AppLanguage language(paths.settingsFile);
+        QtSettingsStore store(paths.settingsFile);
+        AppSettings settings(store, paths.autostartFile);
+        testing::RecordingSoundPlayer sounds;
+        NotificationsSettingsTab notifications(settings, sounds);
+        for (const auto& count : counts) {
+            SCOPED_TRACE(code + " " + std::to_string(count.n));
+            if (count.connections) {
+                EXPECT_EQ(headerStatusText({.enabledConnections = count.n}), count.connections);
+            }
+            EXPECT_EQ(foldersSelectedText(count.n).toStdString(), count.folders);
+            if (count.failures) {
+                notifications.errorAttemptsStepper()->setValue(count.n);
+                EXPECT_EQ(notifications.errorAttemptsStepper()->text().toStdString(),
+                          count.failures);
+            }
+        }
+    }
+}
+
 struct Message {
     QString source, translation;
+    QStringList forms;  // of a text with a count, one a grammatical number of the language
     bool unfinished = false;
 };
 
@@ -140,8 +191,12 @@ std::vector<Message> messagesOf(const QString& tsFile) {
         if (xml.name() == QStringLiteral("translation")) {
             messages.back().unfinished = xml.attributes().value(QStringLiteral("type")) ==
                                          QStringLiteral("unfinished");
+            // A text with a count has its forms, which follow, in place of one translation.
+            if (messages.back().source.contains(QStringLiteral("%n"))) continue;
             messages.back().translation = xml.readElementText();
         }
+        if (xml.name() == QStringLiteral("numerusform"))
+            messages.back().forms << xml.readElementText();
     }
     EXPECT_FALSE(xml.hasError()) << tsFile.toStdString() << ": " << xml.errorString().toStdString();
     return messages;
@@ -153,6 +208,29 @@ QString placeholdersOf(const QString& text) {
     QStringList found;
     for (const auto& match : placeholder.globalMatch(text)) found << match.captured();
     return found.join(QLatin1Char(' '));
+}
+
+// A text with a count has as many forms as its language's grammar: each count from 0 to 1,000
+// finds one of them in the built table, and each form is found by some count.
+void expectEveryForm(const QTranslator& built, const Message& message) {
+    ASSERT_FALSE(message.forms.isEmpty());
+    for (const auto& form : message.forms) {
+        EXPECT_FALSE(form.trimmed().isEmpty());
+        EXPECT_TRUE(form.contains(QStringLiteral("%n"))) << form.toStdString();
+        EXPECT_EQ(placeholdersOf(form), placeholdersOf(message.source)) << form.toStdString();
+    }
+    const auto distinct = [](QStringList forms) {
+        forms.removeDuplicates();
+        forms.sort();
+        return forms.join(QStringLiteral(" | ")).toStdString();
+    };
+    QStringList found;
+    for (int n = 0; n <= 1000; ++n) {
+        found << built.translate("tarnel", message.source.toUtf8().constData(), nullptr, n);
+        ASSERT_TRUE(message.forms.contains(found.back()))
+            << n << ": " << found.back().toStdString();
+    }
+    EXPECT_EQ(distinct(found), distinct(message.forms));
 }
 
 // Every language the picker offers speaks every text of the program: its source is complete and
@@ -174,6 +252,10 @@ TEST(Language, EveryOfferedLanguageIsComplete) {
         for (const auto& message : messages) {
             SCOPED_TRACE(message.source.toStdString());
             EXPECT_FALSE(message.unfinished);
+            if (message.source.contains(QStringLiteral("%n"))) {
+                expectEveryForm(built, message);
+                continue;
+            }
             EXPECT_FALSE(message.translation.trimmed().isEmpty());
             EXPECT_EQ(placeholdersOf(message.translation), placeholdersOf(message.source));
             EXPECT_EQ(built.translate("tarnel", message.source.toUtf8().constData()),

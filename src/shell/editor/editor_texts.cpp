@@ -4,6 +4,7 @@
 #include <QLocale>
 
 #include "engine/destination.h"
+#include "platform/localized.h"
 #include "shell/bridge/qt_text.h"
 
 namespace tarnel {
@@ -16,12 +17,11 @@ QString minFileSizeText(std::int64_t bytes) {
 }
 
 QString fileCountText(int count) {
-    return count == 1 ? ui("1 file") : QString::number(count) + ui(" files");
+    return qs(localizedCount("%n file(s)", count));
 }
 
 QString foldersSelectedText(std::size_t count) {
-    return count == 1 ? ui("1 folder selected")
-                      : QString::number(count) + ui(" folders selected");
+    return qs(localizedCount("%n folder(s) selected", static_cast<int>(count)));
 }
 
 QString renamePreview(const ConnectionConfig& config, const Clock& clock) {

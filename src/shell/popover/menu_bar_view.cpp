@@ -6,6 +6,7 @@
 #include <QScrollArea>
 #include <cstdio>
 
+#include "platform/localized.h"
 #include "shell/bridge/qt_text.h"
 #include "shell/icons/symbol_icon.h"
 #include "shell/popover/popover_texts.h"
@@ -289,8 +290,7 @@ void MenuBarView::refreshActivity() {
                [](const DownloadProgress&) { return std::make_unique<DownloadRow>(); });
     monitoring_->setVisible(plan.monitoring());
     moreDownloading_->setVisible(plan.moreDownloading > 0);
-    moreDownloading_->setText(QStringLiteral("+") + QString::number(plan.moreDownloading) +
-                              ui(" more downloading..."));
+    moreDownloading_->setText(qs(localizedCount("+%n more downloading...", plan.moreDownloading)));
     for (std::size_t i = 0; i < waitingLines_.size(); ++i) {
         auto* line = waitingLines_[i];
         line->setVisible(i < plan.waiting.size());
@@ -303,7 +303,7 @@ void MenuBarView::refreshActivity() {
                                qs(stabilityText(file.isGrowing, file.stableCount, file.requiredChecks)));
     }
     moreWaiting_->setVisible(plan.moreWaiting > 0);
-    moreWaiting_->setText(QString::number(plan.moreWaiting) + ui(" waiting for stability"));
+    moreWaiting_->setText(qs(localizedCount("%n waiting for stability", plan.moreWaiting)));
 }
 
 void MenuBarView::refreshRecent() {

@@ -11,8 +11,7 @@ std::string headerStatusText(const HeaderInputs& in) {
     if (in.pausedForNetwork) return localized("No network");
     if (in.aggregatePaused) return localized("Paused");
     if (in.enabledConnections == 0) return localized("No connections");
-    if (in.enabledConnections == 1) return localized("1 active connection");
-    return std::to_string(in.enabledConnections) + localized(" active connections");
+    return localizedCount("%n active connection(s)", in.enabledConnections);
 }
 
 std::optional<Banner> bannerFor(const BannerInputs& in) {
@@ -42,10 +41,9 @@ std::string connectionStatusWord(const ConnectionConfig& config,
 std::string pollIntervalText(double seconds) {
     const auto whole = static_cast<long long>(std::llround(seconds));
     if (whole >= 60 && whole % 60 == 0) {
-        const auto minutes = whole / 60;
-        return std::to_string(minutes) + (minutes == 1 ? localized(" minute") : localized(" minutes"));
+        return localizedCount("%n minute(s)", static_cast<int>(whole / 60));
     }
-    return std::to_string(whole) + (whole == 1 ? localized(" second") : localized(" seconds"));
+    return localizedCount("%n second(s)", static_cast<int>(whole));
 }
 
 ActivityPlan planActivity(const std::vector<DownloadProgress>& downloads,

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "platform/localized.h"
 #include "shell/bridge/qt_text.h"
 #include "shell/settings/settings_form.h"
 
@@ -13,12 +14,22 @@ namespace tarnel {
 
 namespace {
 
-// The stepper's number stands inside its sentence: "Only if 10 or more files".
-QSpinBox* stepper(const char* before, const char* after, int minimum, int maximum) {
+// The stepper's number stands inside its sentence, whose words agree with it as it changes:
+// "Only if 10 or more files"; in Polish "Po 1 nieudanej próbie", "Po 5 nieudanych próbach".
+QSpinBox* stepper(const char* sentence, int minimum, int maximum) {
     auto* box = new QSpinBox;
     box->setRange(minimum, maximum);
-    box->setPrefix(ui(before));
-    box->setSuffix(ui(after));
+    const auto agree = [box, sentence](int count) {
+        const auto text = qs(localizedCount(sentence, count));
+        const auto number = QString::number(count);
+        const auto at = text.indexOf(number);
+        if (at < 0) return;
+        const auto before = text.left(at), after = text.mid(at + number.size());
+        if (before != box->prefix()) box->setPrefix(before);
+        if (after != box->suffix()) box->setSuffix(after);
+    };
+    QObject::connect(box, &QSpinBox::valueChanged, box, agree);
+    agree(box->value());
     return box;
 }
 
@@ -46,7 +57,7 @@ NotificationsSettingsTab::NotificationsSettingsTab(AppSettings& settings, SoundP
     auto* downloads = formSection(form, ui("Download Notifications"));
     toggle(downloads, UI_TEXT("Notify when downloads complete"), settings.notificationsEnabled,
            [&settings](bool on) { settings.setNotificationsEnabled(on); });
-    minFileCount_ = stepper(UI_TEXT("Only if "), UI_TEXT(" or more files"), 1, 50);
+    minFileCount_ = stepper(UI_TEXT("Only if %n or more files"), 1, 50);
     bindValue(minFileCount_, settings.notifyMinFileCount,
               [&settings](int n) { settings.setNotifyMinFileCount(n); }, bindings_);
     bindVisible(dependent(downloads, minFileCount_), settings.notificationsEnabled, true, bindings_);
@@ -58,7 +69,7 @@ NotificationsSettingsTab::NotificationsSettingsTab(AppSettings& settings, SoundP
     auto* errors = formSection(form, ui("Error Notifications"));
     toggle(errors, UI_TEXT("Notify on connection errors"), settings.notifyErrors,
            [&settings](bool on) { settings.setNotifyErrors(on); });
-    errorAttempts_ = stepper(UI_TEXT("After "), UI_TEXT(" consecutive failures"), 1, 10);
+    errorAttempts_ = stepper(UI_TEXT("After %n consecutive failures"), 1, 10);
     bindValue(errorAttempts_, settings.notifyErrorsAfterAttempts,
               [&settings](int n) { settings.setNotifyErrorsAfterAttempts(n); }, bindings_);
     bindVisible(dependent(errors, errorAttempts_), settings.notifyErrors, true, bindings_);
