@@ -34,6 +34,10 @@ int runTrayApplication(int argc, char** argv, const AppPaths& paths, int stopSig
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(artworkIcon("tarnel"));
     QApplication::setDesktopFileName(QStringLiteral("tarnel"));
+    // StatusNotifierItem hosts (Plasma's tray, its list of hidden icons, the icon's tooltip) show
+    // the application name; the default is the executable's. Not the display name: Qt would
+    // append that to every window title.
+    QApplication::setApplicationName(QStringLiteral("Tarnel"));
 
     const AppLanguage language(paths.settingsFile);
     AppDelegate delegate(paths);

@@ -13,7 +13,8 @@ expected_files="./usr/bin/tarnel
 ./usr/share/applications/tarnel.desktop
 ./usr/share/doc/tarnel/README.md
 ./usr/share/icons/hicolor/scalable/apps/tarnel.svg
-./usr/share/metainfo/tarnel.metainfo.xml"
+./usr/share/metainfo/tarnel.metainfo.xml
+./usr/share/tarnel/screenshots/popover.png"
 
 skip() { echo "SKIPPED: $*"; exit 77; }
 fail() { echo "FAILED: $*" >&2; exit 1; }

@@ -6,6 +6,7 @@
     kwin_session.py activate TITLE LOG  gives the focus to the window titled TITLE
     kwin_session.py items             JSON list of the registered StatusNotifierItems: their
                                       service, object path, process id, Id and Title
+    kwin_session.py pointer X Y       moves the pointer to X,Y (org_kde_kwin_fake_input)
 
 KWin answers scripts only in its own log, so `windows` and `activate` run a small KWin script
 that prints a marked line, and read it from LOG, KWin's standard error (started with
@@ -14,6 +15,8 @@ QT_LOGGING_RULES="kwin_scripting=true").
 
 import json
 import os
+import socket
+import struct
 import subprocess
 import sys
 import tempfile
@@ -34,6 +37,7 @@ Name=Screenshots of this session
 Exec=%s
 NoDisplay=true
 X-KDE-DBUS-Restricted-Interfaces=org.kde.KWin.ScreenShot2
+X-KDE-Wayland-Interfaces=org_kde_kwin_fake_input
 """
 
 
@@ -140,6 +144,74 @@ def items():
     return found
 
 
+class WaylandClient:
+    """Just enough of the Wayland wire protocol to bind one global and send it requests."""
+
+    def __init__(self):
+        self.sock = socket.socket(socket.AF_UNIX, socket.SOCK_STREAM)
+        self.sock.connect(os.path.join(os.environ["XDG_RUNTIME_DIR"], os.environ["WAYLAND_DISPLAY"]))
+        self.last_id = 1  # wl_display
+        self.received = b""
+
+    def new_id(self):
+        self.last_id += 1
+        return self.last_id
+
+    def send(self, target, opcode, *args):
+        payload = b""
+        for arg in args:
+            if isinstance(arg, str):
+                data = arg.encode() + b"\0"
+                payload += struct.pack("=I", len(data)) + data + b"\0" * (-len(data) % 4)
+            else:
+                payload += struct.pack("=I", arg & 0xFFFFFFFF)
+        self.sock.sendall(struct.pack("=II", target, (8 + len(payload)) << 16 | opcode) + payload)
+
+    def roundtrip(self):
+        """The events that came before the compositor answered a wl_display.sync."""
+        callback = self.new_id()
+        self.send(1, 0, callback)
+        events = []
+        while True:
+            while len(self.received) < 8:
+                self.received += self.sock.recv(4096) or sys.exit("kwin_session: KWin hung up")
+            target, size_opcode = struct.unpack_from("=II", self.received)
+            size = size_opcode >> 16
+            while len(self.received) < size:
+                self.received += self.sock.recv(4096) or sys.exit("kwin_session: KWin hung up")
+            body, self.received = self.received[8:size], self.received[size:]
+            if target == callback:
+                return events
+            if target == 1 and size_opcode & 0xFFFF == 0:
+                sys.exit("kwin_session: Wayland protocol error: %r" % body)
+            events.append((target, size_opcode & 0xFFFF, body))
+
+    def bind(self, interface, version):
+        registry = self.new_id()
+        self.send(1, 1, registry)
+        for target, opcode, body in self.roundtrip():
+            if target != registry or opcode != 0:
+                continue
+            name, length = struct.unpack_from("=II", body)
+            if body[8:8 + length - 1].decode() == interface:
+                bound = self.new_id()
+                self.send(registry, 0, name, interface, version, bound)
+                return bound
+        sys.exit("kwin_session: KWin offers no %s to this program (its desktop entry must "
+                 "list it in X-KDE-Wayland-Interfaces)" % interface)
+
+
+def pointer(x, y):
+    client = WaylandClient()
+    fake_input = client.bind("org_kde_kwin_fake_input", 4)
+    client.send(fake_input, 0, "kwin_session", "screenshots of this session")  # authenticate
+    client.roundtrip()
+    client.send(fake_input, 9, int(x * 256), int(y * 256))  # pointer_motion_absolute, fixed
+    client.roundtrip()
+    # KWin drops the device with its client; the surface under the pointer must see it stay.
+    time.sleep(1)
+
+
 def main(argv):
     command = argv[1] if len(argv) > 1 else ""
     if command == "shot" and len(argv) == 3:
@@ -149,6 +221,8 @@ def main(argv):
     elif command == "activate" and len(argv) == 4:
         action = "if (c.caption == %s) workspace.activeClient = c;" % json.dumps(argv[2])
         run_script(action, argv[3])
+    elif command == "pointer" and len(argv) == 4:
+        pointer(float(argv[2]), float(argv[3]))
     elif command == "items" and len(argv) == 2:
         print(json.dumps(items()))
     else:
