@@ -442,7 +442,9 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         slot.release();
         if (config_.deleteAfterDownload) {
             std::optional<std::string> deleteError;
-            // The source goes only once the placed file is safe on disk.
+            // The source goes only once the placed file is safe on disk and booked: no record
+            // stands in for the booking of a moved file.
+            downloadTracker_->commit();
             try {
                 co_await services_.fileSyncer.makeDurable(placed);
             } catch (...) {

@@ -111,6 +111,10 @@ void DownloadTracker::markDownloaded(const std::string& trackingKey, std::int64_
     knownInListing_->add(entry);
 }
 
+void DownloadTracker::commit() {
+    journal_->commit();
+}
+
 void DownloadTracker::forget(const std::string& trackingKey, std::int64_t size) {
     const auto entry = downloadedKey(trackingKey, size);
     knownInListing_->remove(entry);

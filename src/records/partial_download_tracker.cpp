@@ -141,7 +141,7 @@ void PartialDownloadTracker::flush() {
         std::lock_guard lock(mutex_);
         writeHeldBackLocked();
     }
-    journal_->flush();
+    journal_->commit();
 }
 
 void PartialDownloadTracker::writeLocked(const std::vector<Key>& keys, bool commitNow) {
