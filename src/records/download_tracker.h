@@ -30,7 +30,7 @@ public:
     void markDownloaded(const std::string& trackingKey, std::int64_t size);
     // Commits the entries added so far (before a file they name leaves the server).
     void commit();
-    // Drops the entry (a file deleted on the server).
+    // Drops the entry (a file deleted on the server), committed before it returns.
     void forget(const std::string& trackingKey, std::int64_t size);
     // A new listing is being checked: the entries kept so far serve it until listingChecked(),
     // which lets go of those it did not hold.
