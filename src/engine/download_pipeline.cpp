@@ -159,6 +159,8 @@ RemoteService::ProgressCallback SyncEngine::progressReporter(const Uuid& rowId,
         // A transfer that ends within the first interval posts nothing: its row goes with it.
         std::atomic<std::int64_t> lastPost{
             std::chrono::steady_clock::now().time_since_epoch().count()};
+        // libcurl calls back while it waits, too: the record changes only with new bytes.
+        std::atomic<std::int64_t> lastReceived{-1};
     };
     auto shared = std::make_shared<Shared>(services_.runtime.clock);
     std::weak_ptr<SyncEngine> weak = weak_from_this();
@@ -168,7 +170,8 @@ RemoteService::ProgressCallback SyncEngine::progressReporter(const Uuid& rowId,
     return [=, &partials, &loop, connectionId = config_.id.toString()](std::int64_t received,
                                                                        std::int64_t expected) {
         shared->speed.addSample(received);
-        partials.updateProgress(connectionId, key, received);
+        if (shared->lastReceived.exchange(received) != received)
+            partials.updateProgress(connectionId, key, received);
         const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
         const auto last = shared->lastPost.load();
         // The end of the download removes the row, so its last sample need not go through.
@@ -442,7 +445,9 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         slot.release();
         if (config_.deleteAfterDownload) {
             std::optional<std::string> deleteError;
-            // The source goes only once the placed file is safe on disk.
+            // The source goes only once the placed file is safe on disk and booked: no record
+            // stands in for the booking of a moved file.
+            downloadTracker_->commit();
             try {
                 co_await services_.fileSyncer.makeDurable(placed);
             } catch (...) {

@@ -111,17 +111,25 @@ void DownloadTracker::markDownloaded(const std::string& trackingKey, std::int64_
     knownInListing_->add(entry);
 }
 
+void DownloadTracker::commit() {
+    journal_->commit();
+}
+
 void DownloadTracker::forget(const std::string& trackingKey, std::int64_t size) {
     const auto entry = downloadedKey(trackingKey, size);
     knownInListing_->remove(entry);
     if (knownInLastListing_)
         knownInLastListing_->remove(entry);
-    journal_->write([&](Journal& j) {
-        j.statement("DELETE FROM downloaded WHERE connection_id = ?1 AND entry = ?2")
-            .bind(1, connectionId_)
-            .bind(2, entry)
-            .step();
-    });
+    // At once: an entry that a crash left behind would keep a later file of that name and size
+    // from ever being fetched.
+    journal_->write(
+        [&](Journal& j) {
+            j.statement("DELETE FROM downloaded WHERE connection_id = ?1 AND entry = ?2")
+                .bind(1, connectionId_)
+                .bind(2, entry)
+                .step();
+        },
+        true);
 }
 
 void DownloadTracker::newListing() {

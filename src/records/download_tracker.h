@@ -26,9 +26,11 @@ public:
 
     bool isDownloaded(const std::string& trackingKey, std::int64_t size) const;
 
-    // Adds the entry: one row.
+    // Adds the entry: one row, committed with the journal's next commit.
     void markDownloaded(const std::string& trackingKey, std::int64_t size);
-    // Drops the entry (a file deleted on the server).
+    // Commits the entries added so far (before a file they name leaves the server).
+    void commit();
+    // Drops the entry (a file deleted on the server), committed before it returns.
     void forget(const std::string& trackingKey, std::int64_t size);
     // A new listing is being checked: the entries kept so far serve it until listingChecked(),
     // which lets go of those it did not hold.

@@ -209,9 +209,9 @@ HistoryService::HistoryService(MainLoop& loop, const std::filesystem::path& hist
     : HistoryService(loop, Journal::open(historyFile.parent_path() / "journal.db"), historyFile) {}
 
 void HistoryService::add(HistoryEntry entry) {
-    // The row is queued at once, from the calling thread: a flush() on the loop takes it along
+    // The row is written at once, from the calling thread: a flush() on the loop takes it along
     // even while the list has yet to show it.
-    journal_->writeLater([entry](Journal& j) { writeRow(j, entry); });
+    journal_->write([&](Journal& j) { writeRow(j, entry); });
     loop_.post([this, entry = std::move(entry)]() mutable {
         entries_.update([&](std::deque<HistoryEntry>& list) {
             list.push_front(std::move(entry));
@@ -222,13 +222,12 @@ void HistoryService::add(HistoryEntry entry) {
 }
 
 void HistoryService::clear() {
-    // In the order of the calls, as add() queues its rows.
-    journal_->writeLater([](Journal& j) { j.execute("DELETE FROM history"); });
+    journal_->write([](Journal& j) { j.execute("DELETE FROM history"); });
     loop_.post([this] { entries_.set({}); });
 }
 
 void HistoryService::flush() {
-    journal_->flush();
+    journal_->commit();
 }
 
 bool HistoryService::matches(const HistoryEntry& entry, const std::string& text,

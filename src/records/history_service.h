@@ -42,9 +42,9 @@ struct HistoryEntry {
 };
 
 // The last 500 transfers, good and bad, newest first, for the history window. The list lives
-// on the main loop; each entry is also a row of the journal, written by the journal's writer
-// thread: an entry costs a row, not a rewrite. The journal keeps entries beyond the 500 for
-// `keptFor`, then drops them when the program starts.
+// on the main loop; each entry is also a row of the journal, written by the caller and committed
+// with the journal's next commit: an entry costs a row, not a rewrite. The journal keeps entries
+// beyond the 500 for `keptFor`, then drops them when the program starts.
 class HistoryService {
 public:
     static constexpr std::size_t maxEntries = 500;

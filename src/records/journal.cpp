@@ -187,13 +187,29 @@ std::shared_ptr<Journal> Journal::open(const std::filesystem::path& file,
     }
 }
 
-Journal::Journal(std::filesystem::path file, sqlite3* db) : file_(std::move(file)), db_(db) {}
+Journal::Journal(std::filesystem::path file, sqlite3* db) : file_(std::move(file)), db_(db) {
+    // Prepared once: a transaction begins and ends for nearly every file placed.
+    check(db_, sqlite3_prepare_v3(db_, "BEGIN IMMEDIATE", -1, SQLITE_PREPARE_PERSISTENT, &begin_,
+                                  nullptr),
+          "begin");
+    check(db_, sqlite3_prepare_v3(db_, "COMMIT", -1, SQLITE_PREPARE_PERSISTENT, &commit_, nullptr),
+          "commit");
+    committer_ = std::thread([this] { commitWhenDue(); });
+}
 
 Journal::~Journal() {
-    flush();
+    {
+        std::lock_guard lock(mutex_);
+        stopping_ = true;
+    }
+    commitWanted_.notify_one();
+    committer_.join();
     std::lock_guard lock(mutex_);
+    commitLocked();
     for (auto& [sql, statement] : statements_)
         sqlite3_finalize(statement->statement_);
+    sqlite3_finalize(begin_);
+    sqlite3_finalize(commit_);
     sqlite3_close_v2(db_);
 }
 
@@ -206,7 +222,9 @@ void Journal::resetUsedLocked() {
 void Journal::beginLocked() {
     if (inTransaction_)
         return;
-    check(db_, sqlite3_exec(db_, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), "begin");
+    const int rc = sqlite3_step(begin_);
+    sqlite3_reset(begin_);
+    check(db_, rc, "begin");
     inTransaction_ = true;
 }
 
@@ -214,33 +232,35 @@ void Journal::commitLocked() {
     if (!inTransaction_)
         return;
     inTransaction_ = false;
-    if (sqlite3_exec(db_, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK)
+    const int rc = sqlite3_step(commit_);
+    sqlite3_reset(commit_);
+    if (rc != SQLITE_DONE)
         sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
 void Journal::scheduleCommitLocked() {
-    if (commitQueued_)
-        return;  // the queued commit takes this row too
-    commitQueued_ = true;
-    queue_.async([this] {
-        std::lock_guard lock(mutex_);
-        commitQueued_ = false;
-        commitLocked();
-    });
+    // A committer already holding rows back takes this one too; waking it for each row would
+    // cost a thread switch a file.
+    if (committerWaiting_)
+        commitWanted_.notify_one();
 }
 
-void Journal::writeLater(std::function<void(Journal&)> work) {
-    queue_.async([this, work = std::move(work)] { write(work); });
+void Journal::commitWhenDue() {
+    std::unique_lock lock(mutex_);
+    while (!stopping_) {
+        committerWaiting_ = true;
+        commitWanted_.wait(lock, [this] { return stopping_ || inTransaction_; });
+        committerWaiting_ = false;
+        // Rows that come meanwhile share the commit; a commit of the caller's own (a record that
+        // must be on disk at once) takes them earlier, and this one then finds nothing to do.
+        commitWanted_.wait_for(lock, commitHold, [this] { return stopping_; });
+        commitLocked();
+    }
 }
 
 void Journal::commit() {
     std::lock_guard lock(mutex_);
     commitLocked();
-}
-
-void Journal::flush() {
-    queue_.drain();
-    commit();
 }
 
 bool Journal::transaction(const std::function<bool(Journal&)>& work) {

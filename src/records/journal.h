@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <condition_variable>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -8,10 +10,9 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <thread>
 #include <unordered_map>
 #include <vector>
-
-#include "platform/serial_queue.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -49,10 +50,12 @@ private:
 // partial-download records and the transfer history (SQLite, WAL). A change costs a row.
 //
 // One connection, used from any thread under one mutex. Writes go into a transaction that stays
-// open until the journal's writer thread commits it, right after: a burst of rows from several
-// engines shares one commit, and reads on the same connection see every row written before
+// open until the journal's committer thread commits it, `commitHold` after the first of them: a
+// burst of rows shares one commit, and reads on the same connection see every row written before
 // them, committed or not. A commit survives a crash of the process; what was not committed is
-// lost with it, which is why the records that a restart must find call commit() themselves.
+// lost with it, which is why the records that a restart must find commit themselves. Any commit
+// takes every row written before it along, so a row that stands in for another (a placed file's
+// record for its booking) may be removed once the row it stands for is written.
 class Journal {
 public:
     using ErrorReport = std::function<void(const std::string&)>;
@@ -65,13 +68,18 @@ public:
                                          const ErrorReport& reportError = {});
     ~Journal();  // commits what is written
 
+    // How long the committer lets rows gather before it commits them. A file placed while a batch
+    // runs writes its record and commits it at once: that commit takes the bookings of the files
+    // before it along, and the committer's own commit is rarely needed.
+    static constexpr std::chrono::milliseconds commitHold{50};
+
     Journal(const Journal&) = delete;
     Journal& operator=(const Journal&) = delete;
 
     // Runs `work(journal)` now, inside the open transaction (begun if none), and has the
-    // transaction committed by the writer thread; with `commitNow`, commits it before returning
-    // (a record that a restart must find) and leaves the writer asleep. Storage errors are
-    // swallowed: the stores never report a failure to write. Returns false after one.
+    // transaction committed by the committer thread; with `commitNow`, commits it before
+    // returning (a record that a restart must find). Storage errors are swallowed: the stores
+    // never report a failure to write. Returns false after one.
     template <typename Work>
     bool write(Work&& work, bool commitNow = false) {
         Use use(*this);
@@ -89,8 +97,6 @@ public:
         commitLocked();
         return true;
     }
-    // Runs `work(journal)` on the writer thread, off the caller's path, then commits.
-    void writeLater(std::function<void(Journal&)> work);
     // Reads, seeing every row written before. Errors reach the caller as JournalError.
     template <typename Work>
     auto read(Work&& work) {
@@ -99,8 +105,6 @@ public:
     }
     // Commits the open transaction before returning.
     void commit();
-    // Waits for the work queued with writeLater() and commits it.
-    void flush();
     // Runs `work` in a transaction of its own, committed when it returns true and rolled back
     // when it returns false or throws (the migration of an older store: all or nothing).
     bool transaction(const std::function<bool(Journal&)>& work);
@@ -127,15 +131,21 @@ private:
     void beginLocked();
     void commitLocked();
     void scheduleCommitLocked();
+    void commitWhenDue();
 
     std::filesystem::path file_;
     sqlite3* db_;
     std::mutex mutex_;
     std::unordered_map<const char*, std::unique_ptr<Statement>> statements_;
     std::vector<Statement*> used_;
+    sqlite3_stmt* begin_ = nullptr;
+    sqlite3_stmt* commit_ = nullptr;
     bool inTransaction_ = false;
-    bool commitQueued_ = false;
-    SerialQueue queue_;  // last: its thread stops before the connection closes
+    // The committer: asleep until a write asks for a commit, then commits after the hold.
+    std::condition_variable commitWanted_;
+    bool committerWaiting_ = false;
+    bool stopping_ = false;
+    std::thread committer_;  // last: it starts once everything else is there
 };
 
 }  // namespace tarnel

@@ -141,7 +141,7 @@ void PartialDownloadTracker::flush() {
         std::lock_guard lock(mutex_);
         writeHeldBackLocked();
     }
-    journal_->flush();
+    journal_->commit();
 }
 
 void PartialDownloadTracker::writeLocked(const std::vector<Key>& keys, bool commitNow) {
@@ -220,16 +220,22 @@ void PartialDownloadTracker::markPlaced(const std::string& connectionId,
                                         const std::string& placedPath) {
     std::lock_guard lock(mutex_);
     const Key key{connectionId, remotePath};
-    auto record = findLocked(key);
-    if (!record)
-        return;
-    record->placedPath = placedPath;
     // Only a restart reads it from here on: the row stays until remove(), the memory goes now,
     // so that a batch of many thousand files kept on the server holds none of them. A byte
     // count still held back goes too: written later, it would find no record and drop the row.
     partials_.erase(key);
     heldBack_.erase(key);
-    journal_->write([&](Journal& j) { writeRow(j, *record); }, true);
+    // The row was written when the record was made; a key without one changes nothing.
+    journal_->write(
+        [&](Journal& j) {
+            j.statement("UPDATE partials SET placed_path = ?3 "
+                        "WHERE connection_id = ?1 AND remote_path = ?2")
+                .bind(1, connectionId)
+                .bind(2, remotePath)
+                .bind(3, placedPath)
+                .step();
+        },
+        true);
 }
 
 std::vector<PartialDownload> PartialDownloadTracker::takePlacedByEarlierRun(

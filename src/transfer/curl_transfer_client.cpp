@@ -1,6 +1,7 @@
 #include "transfer/curl_transfer_client.h"
 
 #include <algorithm>
+#include <climits>
 #include <cstdio>
 #include <cstring>
 #include <future>
@@ -138,6 +139,12 @@ void CurlTransferClient::configureHandle(CURL* h, const std::string& url, bool e
         // Less than a byte a second over the whole stall time: nothing is coming any more.
         curl_easy_setopt(h, CURLOPT_LOW_SPEED_LIMIT, 1L);
         curl_easy_setopt(h, CURLOPT_LOW_SPEED_TIME, seconds(timeouts_.stall));
+        // With no time limit at all, libcurl (7.88) closes an SFTP file by polling its socket
+        // without waiting, thousands of times until the server answers: a core spinning at every
+        // download's end. The longest limit it takes (24 days) ends no real transfer; one that
+        // reached it would resume.
+        if (protocol == TransferProtocol::sftp)
+            curl_easy_setopt(h, CURLOPT_TIMEOUT_MS, static_cast<long>(INT_MAX));
     } else {
         curl_easy_setopt(h, CURLOPT_TIMEOUT, seconds(timeouts_.operation));
     }

@@ -10,14 +10,19 @@
 namespace tarnel {
 namespace {
 
+// Fetched once for the process: given OpenSSL's built-in names instead, each digest of each file
+// looks its algorithm up again.
 const EVP_MD* evpOf(DigestAlgorithm algorithm) {
+    static EVP_MD* const sha256 = EVP_MD_fetch(nullptr, "SHA256", nullptr);
+    static EVP_MD* const sha1 = EVP_MD_fetch(nullptr, "SHA1", nullptr);
+    static EVP_MD* const md5 = EVP_MD_fetch(nullptr, "MD5", nullptr);
     switch (algorithm) {
         case DigestAlgorithm::sha256:
-            return EVP_sha256();
+            return sha256;
         case DigestAlgorithm::sha1:
-            return EVP_sha1();
+            return sha1;
         case DigestAlgorithm::md5:
-            return EVP_md5();
+            return md5;
         case DigestAlgorithm::crc32:
             break;
     }

@@ -15,9 +15,13 @@ double secondsBetween(TimePoint from, TimePoint to) {
 void SpeedCalculator::addSample(std::int64_t bytes) {
     const TimePoint now = clock_.now();
     std::lock_guard lock(mutex_);
-    samples_.push_back({now, bytes});
-    std::erase_if(samples_,
-                  [&](const Sample& s) { return secondsBetween(s.timestamp, now) > windowSize; });
+    if (samples_.size() >= 2 && now - samples_.back().timestamp < sampleSpacing)
+        samples_.back() = {now, bytes};
+    else
+        samples_.push_back({now, bytes});
+    // Oldest first: the samples out of the window are at the front.
+    while (!samples_.empty() && secondsBetween(samples_.front().timestamp, now) > windowSize)
+        samples_.pop_front();
 }
 
 double SpeedCalculator::currentSpeed() const {

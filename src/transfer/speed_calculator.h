@@ -1,8 +1,9 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
+#include <deque>
 #include <mutex>
-#include <vector>
 
 #include "platform/clock.h"
 
@@ -13,6 +14,10 @@ namespace tarnel {
 class SpeedCalculator {
 public:
     static constexpr double windowSize = 5.0;  // seconds
+    // A sample this close to the one before replaces it. libcurl may report progress hundreds
+    // of times for one small file (over SFTP it calls back while it waits for the server), and
+    // each sample kept would be looked at again by every later one.
+    static constexpr std::chrono::milliseconds sampleSpacing{10};
 
     explicit SpeedCalculator(const Clock& clock) : clock_(clock) {}
 
@@ -29,7 +34,7 @@ private:
 
     const Clock& clock_;
     mutable std::mutex mutex_;
-    std::vector<Sample> samples_;  // oldest first
+    std::deque<Sample> samples_;  // oldest first
 };
 
 }  // namespace tarnel

@@ -45,12 +45,14 @@ struct EngineFixture : ::testing::Test {
     AppSettings settings{settingsStore, dir / "autostart" / "tarnel.desktop"};
     LogService logService{loop, loop, dir / "Tarnel.log"};
     StatsService stats{settingsStore, loop};
-    HistoryService history{loop, dir / "history.json"};
+    // One connection to the journal for every store, as the application has.
+    std::shared_ptr<Journal> journal = Journal::open(dir / "journal.db");
+    HistoryService history{loop, journal, dir / "history.json"};
     RecordingNotifier notifier;
     NotificationService notifications{settings, notifier};
     ManualSleepMonitor sleepMonitor;
     RecordingSoundPlayer soundPlayer;
-    PartialDownloadTracker partials{dir / "partials.json", &loop};
+    PartialDownloadTracker partials{journal, dir / "partials.json", &loop};
     RecordingSyncer syncer{loop};
     std::shared_ptr<MemoryServer> server = std::make_shared<MemoryServer>();
     ConnectionConfig config = defaultConfig();

@@ -302,6 +302,18 @@ TEST_F(SftpClientTest, hostKeysAreTrustedOnFirstUseAndAChangeIsRefused) {
     EXPECT_NE(error.errorDescription().find((dir / "known_hosts").string()), std::string::npos);
 }
 
+// libcurl calls back at each round of its loop: one that polls without waiting for the server's
+// answer to the closing of the file calls back thousands of times and keeps a core busy.
+TEST_F(SftpClientTest, aDownloadWaitsForTheServerInsteadOfSpinning) {
+    write(root / "small.bin", randomBytes(10'000));
+    auto client = makeClient();
+    int callbacks = 0;
+    for (int i = 0; i < 5; ++i)
+        download(*client, client->config().baseRemoteURL() + "small.bin",
+                 dir / "local" / "small.bin", 0, [&](std::int64_t, std::int64_t) { ++callbacks; });
+    EXPECT_LT(callbacks, 5 * 100);  // about 25 a download when it waits
+}
+
 TEST_F(SftpClientTest, logsInWithAKeyFile) {
     write(root / "k.txt", "key");
     auto config = server->connectionConfig();
