@@ -111,8 +111,13 @@ std::string applyRenamePattern(const ConnectionConfig& config, const std::string
     return result;
 }
 
-std::filesystem::path uniqueDestinationURL(const std::filesystem::path& url) {
-    if (!isTaken(url))
+std::filesystem::path uniqueDestinationURL(
+    const std::filesystem::path& url,
+    const std::function<bool(const std::filesystem::path&)>& reserved) {
+    const auto isFree = [&](const std::filesystem::path& path) {
+        return !isTaken(path) && !(reserved && reserved(path));
+    };
+    if (isFree(url))
         return url;
     std::string folder = stringByDeletingLastPathComponent(url.string());
     std::string last = lastPathComponent(url.string());
@@ -123,7 +128,7 @@ std::filesystem::path uniqueDestinationURL(const std::filesystem::path& url) {
         if (!ext.empty())
             name += "." + ext;
         std::filesystem::path candidate = stringByAppendingPathComponent(folder, name);
-        if (!isTaken(candidate))
+        if (isFree(candidate))
             return candidate;
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,8 +27,11 @@ std::string destinationDirectory(const ConnectionConfig& config, const std::stri
 std::string applyRenamePattern(const ConnectionConfig& config, const std::string& name, int counter,
                                const Clock& clock);
 
-// `url` if nothing is there, otherwise the first free "stem (n).ext" beside it.
-std::filesystem::path uniqueDestinationURL(const std::filesystem::path& url);
+// `url` if nothing is there, otherwise the first free "stem (n).ext" beside it. `reserved` tells
+// of names that nothing holds yet but a file is about to take.
+std::filesystem::path uniqueDestinationURL(
+    const std::filesystem::path& url,
+    const std::function<bool(const std::filesystem::path&)>& reserved = {});
 
 // The temporary file a transfer writes in `folder` before the file is placed: the name, a tag
 // of the connection and the tracking key, and ".tarnel-partial". Two connections that place one

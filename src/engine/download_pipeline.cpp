@@ -4,10 +4,13 @@
 #include <chrono>
 #include <algorithm>
 #include <cmath>
+#include <cerrno>
 #include <cstdio>
 #include <exception>
 #include <map>
 #include <system_error>
+
+#include <fcntl.h>
 
 #include "connections/routing.h"
 #include "engine/destination.h"
@@ -72,6 +75,22 @@ void moveFile(const fs::path& from, const fs::path& to) {
     std::error_code ec;
     fs::rename(from, to, ec);
     throwIfFailed(ec, "Could not move the file to", to);
+}
+
+// Moves `from` to `to` unless something is there: false then. A file that came between the
+// choice of the name and the move is never overwritten.
+bool moveUnlessTaken(const fs::path& from, const fs::path& to) {
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
+        return true;
+    if (errno == EEXIST) return false;
+    // A file system that cannot refuse to replace (some network ones): moved as before.
+    if (errno == EINVAL) {
+        moveFile(from, to);
+        return true;
+    }
+    throwIfFailed(std::error_code(errno, std::generic_category()), "Could not move the file to",
+                  to);
+    return true;
 }
 
 }  // namespace
@@ -363,6 +382,9 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
             co_return result;
         }
 
+        // The download is over: the next file starts while this one is placed.
+        slot.release();
+
         // Read before placing: nothing may wait between placing a file and booking it, or a quit
         // meanwhile would leave a moved file placed, unbooked and still on the server.
         std::optional<std::string> md5;
@@ -375,12 +397,8 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         // surely on disk (the next poll): a crash meanwhile books it at the next start instead
         // of fetching it again. One that is moved off the server loses its record first, so no
         // record can ever stand for a later file of the same name.
-        fs::path placed = uniqueDestinationURL(fs::path(folder) / file.name);
-        if (config_.deleteAfterDownload)
-            partials.remove(connectionId, key);
-        else
-            partials.markPlaced(connectionId, key, placed.string());
-        moveFile(tempPath, placed);
+        if (config_.deleteAfterDownload) partials.remove(connectionId, key);
+        fs::path placed = co_await placeDownloadedFile(tempPath, fs::path(folder) / file.name, key);
 
         // Verified and in its folder, the file is downloaded: a step below that fails leaves it
         // where it is under the name it has, and never fetches it again.
@@ -416,7 +434,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
             const std::string newName = applyRenamePattern(config_, file.name, counter, clock);
             if (newName == file.name) return;
             if (auto bad = remotePathProblem(newName)) throw LocalFailure{*bad};
-            fs::path renamed = uniqueDestinationURL(placed.parent_path() / newName);
+            fs::path renamed = freeName(placed.parent_path() / newName);
             if (!config_.deleteAfterDownload)
                 partials.markPlaced(connectionId, key, renamed.string());
             moveFile(placed, renamed);
@@ -440,9 +458,8 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
             }
         }
 
-        // The next file starts now: its download waits for a session only while every one is
-        // busy, and takes over this delete's session the moment the delete is done.
-        slot.release();
+        // The next download waits for a session only while every one is busy, and takes over
+        // this delete's session the moment the delete is done.
         if (config_.deleteAfterDownload) {
             std::optional<std::string> deleteError;
             // The source goes only once the placed file is safe on disk and booked: no record
@@ -502,6 +519,32 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
     result.wasResumed = false;
     result.success = false;
     co_return result;
+}
+
+fs::path SyncEngine::freeName(const fs::path& wanted) const {
+    return uniqueDestinationURL(
+        wanted, [&](const fs::path& path) { return services_.partialTracker.isClaimed(path); });
+}
+
+Task<fs::path> SyncEngine::placeDownloadedFile(fs::path tempPath, fs::path wanted,
+                                               std::string key) {
+    auto& partials = services_.partialTracker;
+    for (;;) {
+        const fs::path target = freeName(wanted);
+        // Held until the file is there: no other transfer or decompression takes the name while
+        // this one waits for its record.
+        const auto claim = partials.claimForWriting(target);
+        if (!claim) continue;
+        // Files placed close together share that commit; the next downloads go on meanwhile.
+        if (!config_.deleteAfterDownload) {
+            auto marked = whenCalled(services_.runtime, [&](std::function<void()> then) {
+                partials.markPlaced(config_.id.toString(), key, target.string(), std::move(then));
+            });
+            co_await marked;
+        }
+        if (moveUnlessTaken(tempPath, target)) co_return target;
+        // Taken meanwhile from outside the program: the next free name.
+    }
 }
 
 void SyncEngine::recordTransfer(const TransferResult& r) {

@@ -68,8 +68,7 @@ Task<void> SyncEngine::decompressIfNeeded(fs::path file) {
         const fs::path inflated = co_await inflating;
         // Placed on the loop, where downloads are placed too, so that neither takes a name the
         // other has just chosen.
-        const fs::path target =
-            uniqueDestinationURL(stringByDeletingPathExtension(file.string()));
+        const fs::path target = freeName(stringByDeletingPathExtension(file.string()));
         std::error_code ec;
         fs::rename(inflated, target, ec);
         if (ec) {

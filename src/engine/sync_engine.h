@@ -96,7 +96,7 @@ public:
     // The stability pass of a successful poll: returns the files whose size has settled.
     std::vector<TrackedFile> updateStability(const std::vector<FTPFileEntry>& entries);
     // Brings one stable file to its place. Never throws: a failure is a result. Gives `slot` up
-    // once the file is placed, before the remote delete.
+    // once the file's bytes are in, before it is placed.
     Task<TransferResult> transferFile(TrackedFile file, int counter, WindowSlot slot);
 
 private:
@@ -127,6 +127,14 @@ private:
     void publishTrackedFiles();
     Task<std::vector<TransferResult>> downloadStableFiles(std::vector<TrackedFile> stable);
     Placement placementOf(const TrackedFile& file) const;
+    // `wanted` if it is free, otherwise the first free name beside it; a name that a file of
+    // the fleet is about to take is not free.
+    std::filesystem::path freeName(const std::filesystem::path& wanted) const;
+    // Moves the downloaded `tempPath` to `wanted`, or to the first free name beside it, and
+    // returns where it went. A file kept on the server goes there only once its record names
+    // the place on disk.
+    Task<std::filesystem::path> placeDownloadedFile(std::filesystem::path tempPath,
+                                                    std::filesystem::path wanted, std::string key);
     // Records, in one write, the downloads of files[from...] up to recordsWrittenAhead of them
     // that have no record yet.
     void recordAhead(const std::vector<TrackedFile>& files, std::size_t from);

@@ -87,4 +87,30 @@ auto whenComplete(Runtime& rt, Start start) {
     return Awaiter{rt, std::move(start), nullptr};
 }
 
+// co_await whenCalled(runtime, start): `start(then)` hands `then` to something that calls it
+// once, from any thread or at once; the awaiting coroutine resumes on the loop. A coroutine
+// destroyed meanwhile (its poll abandoned at quit) is not resumed, whenever `then` comes.
+// Keep the awaiter in a named variable: g++ 12 destroys a temporary one that owns memory twice.
+template <typename Start>
+auto whenCalled(Runtime& rt, Start start) {
+    struct Awaiter {
+        Runtime& rt;
+        Start start;
+        std::shared_ptr<char> alive = std::make_shared<char>();
+        bool await_ready() const noexcept { return false; }
+        void await_suspend(std::coroutine_handle<> h) {
+            // Read on the loop, where the frame is destroyed too.
+            std::weak_ptr<char> frame = alive;
+            start([h, frame, busy = rt.workers.busyElsewhere(), &loop = rt.loop] {
+                // Posted before the token goes, so a loop that sees the pool idle finds it.
+                loop.post([h, frame] {
+                    if (!frame.expired()) h.resume();
+                });
+            });
+        }
+        void await_resume() const noexcept {}
+    };
+    return Awaiter{rt, std::move(start)};
+}
+
 }  // namespace tarnel

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <chrono>
 #include <system_error>
+#include <utility>
 
 #include <fcntl.h>
 #include <sqlite3.h>
@@ -236,6 +237,8 @@ void Journal::commitLocked() {
     sqlite3_reset(commit_);
     if (rc != SQLITE_DONE)
         sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
+    for (auto& then : std::exchange(awaitingCommit_, {}))
+        then();
 }
 
 void Journal::scheduleCommitLocked() {
@@ -253,7 +256,10 @@ void Journal::commitWhenDue() {
         committerWaiting_ = false;
         // Rows that come meanwhile share the commit; a commit of the caller's own (a record that
         // must be on disk at once) takes them earlier, and this one then finds nothing to do.
-        commitWanted_.wait_for(lock, commitHold, [this] { return stopping_; });
+        const auto begun = std::chrono::steady_clock::now();
+        commitWanted_.wait_until(lock, begun + commitHold,
+                                 [this] { return stopping_ || !awaitingCommit_.empty(); });
+        commitWanted_.wait_until(lock, begun + waitedCommitHold, [this] { return stopping_; });
         commitLocked();
     }
 }
@@ -261,6 +267,18 @@ void Journal::commitWhenDue() {
 void Journal::commit() {
     std::lock_guard lock(mutex_);
     commitLocked();
+}
+
+void Journal::whenCommitted(std::function<void()> then) {
+    std::lock_guard lock(mutex_);
+    if (!inTransaction_) {
+        then();
+        return;
+    }
+    awaitingCommit_.push_back(std::move(then));
+    // The committer learns of the first: it then cuts its hold short.
+    if (awaitingCommit_.size() == 1)
+        commitWanted_.notify_one();
 }
 
 bool Journal::transaction(const std::function<bool(Journal&)>& work) {

@@ -72,6 +72,9 @@ public:
     // runs writes its record and commits it at once: that commit takes the bookings of the files
     // before it along, and the committer's own commit is rarely needed.
     static constexpr std::chrono::milliseconds commitHold{50};
+    // How long the committer holds rows back once someone waits for their commit: files placed
+    // close together share one commit, and none waits long.
+    static constexpr std::chrono::milliseconds waitedCommitHold{5};
 
     Journal(const Journal&) = delete;
     Journal& operator=(const Journal&) = delete;
@@ -105,6 +108,10 @@ public:
     }
     // Commits the open transaction before returning.
     void commit();
+    // Calls `then` once every row written before has been committed (or failed to be): at once
+    // when nothing waits to be committed, else from whichever thread commits next, within
+    // `waitedCommitHold`. It runs under the journal's lock and must not use the journal.
+    void whenCommitted(std::function<void()> then);
     // Runs `work` in a transaction of its own, committed when it returns true and rolled back
     // when it returns false or throws (the migration of an older store: all or nothing).
     bool transaction(const std::function<bool(Journal&)>& work);
@@ -141,6 +148,7 @@ private:
     sqlite3_stmt* begin_ = nullptr;
     sqlite3_stmt* commit_ = nullptr;
     bool inTransaction_ = false;
+    std::vector<std::function<void()>> awaitingCommit_;  // called by the next commit
     // The committer: asleep until a write asks for a commit, then commits after the hold.
     std::condition_variable commitWanted_;
     bool committerWaiting_ = false;

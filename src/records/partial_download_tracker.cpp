@@ -217,7 +217,8 @@ void PartialDownloadTracker::incrementResumeAttempts(const std::string& connecti
 
 void PartialDownloadTracker::markPlaced(const std::string& connectionId,
                                         const std::string& remotePath,
-                                        const std::string& placedPath) {
+                                        const std::string& placedPath,
+                                        std::function<void()> then) {
     std::lock_guard lock(mutex_);
     const Key key{connectionId, remotePath};
     // Only a restart reads it from here on: the row stays until remove(), the memory goes now,
@@ -235,7 +236,9 @@ void PartialDownloadTracker::markPlaced(const std::string& connectionId,
                 .bind(3, placedPath)
                 .step();
         },
-        true);
+        !then);
+    if (then)
+        journal_->whenCommitted(std::move(then));
 }
 
 std::vector<PartialDownload> PartialDownloadTracker::takePlacedByEarlierRun(
@@ -303,6 +306,11 @@ std::unique_ptr<PartialDownloadTracker::WritingClaim> PartialDownloadTracker::cl
     if (!claims_->paths.insert(tempPath).second)
         return nullptr;
     return std::make_unique<WritingClaim>(claims_, tempPath);
+}
+
+bool PartialDownloadTracker::isClaimed(const std::filesystem::path& path) const {
+    std::lock_guard lock(claims_->mutex);
+    return claims_->paths.contains(path);
 }
 
 PartialDownloadTracker::WritingClaim::~WritingClaim() {

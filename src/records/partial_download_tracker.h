@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -42,8 +43,8 @@ struct PartialDownload {
 // returns, so that a crash never leaves a temporary file that no record claims. The byte count
 // (which transfers update on every progress callback) is written at most once per
 // `progressWriteInterval`; removals go with the journal's next commit.
-// It also knows which temporary files are being written, by any engine of the fleet, so that no
-// two transfers ever write one.
+// It also knows which temporary files are being written, and which names files are about to be
+// placed under, by any engine of the fleet, so that no two transfers ever write one.
 class PartialDownloadTracker {
 public:
     static constexpr std::chrono::milliseconds progressWriteInterval{1000};
@@ -69,8 +70,11 @@ public:
     void updateProgress(const std::string& connectionId, const std::string& remotePath,
                         std::int64_t bytes);
     void incrementResumeAttempts(const std::string& connectionId, const std::string& remotePath);
+    // Marks the record placed at `placedPath`; the file may go there once the mark is on disk.
+    // Without `then`, that is when this returns; with it, when `then` is called, from any thread:
+    // marks made close together then share a commit.
     void markPlaced(const std::string& connectionId, const std::string& remotePath,
-                    const std::string& placedPath);
+                    const std::string& placedPath, std::function<void()> then = {});
     // Removes and returns the records of `connectionId` that an earlier run of the program had
     // marked placed: that run may have ended before the files' bookings reached the disk.
     std::vector<PartialDownload> takePlacedByEarlierRun(const std::string& connectionId);
@@ -81,11 +85,13 @@ public:
     // Drops the records of a deleted connection; their files are orphans from then on.
     void removeConnection(const std::string& connectionId);
 
-    // A temporary file held for one transfer until the claim is destroyed. A claim may outlive
-    // the tracker (a transfer's frame freed late at shutdown): it then lets go of nothing.
+    // A file held for one transfer until the claim is destroyed: a temporary file being written,
+    // or the name a file is about to be placed under. A claim may outlive the tracker (a
+    // transfer's frame freed late at shutdown): it then lets go of nothing.
     class WritingClaim;
-    // The claim of `tempPath`, or nothing while another transfer holds it.
-    std::unique_ptr<WritingClaim> claimForWriting(const std::filesystem::path& tempPath);
+    // The claim of `path`, or nothing while another transfer holds it.
+    std::unique_ptr<WritingClaim> claimForWriting(const std::filesystem::path& path);
+    bool isClaimed(const std::filesystem::path& path) const;
 
     // The ".tarnel-partial" files directly in `directory` that no record claims, hidden ones
     // left out. The caller deletes them.

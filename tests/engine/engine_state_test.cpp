@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <set>
 #include <stdexcept>
 
 #include "engine_fixture.h"
@@ -236,6 +237,32 @@ TEST_F(EngineStateTest, EachDownloadIsOnRecordBeforeItStartsAndAMoveLeavesNoReco
                          .partial(config.id.toString(), "f" + std::to_string(i) + ".bin"));
 }
 
+// Copy mode: a file is in its folder only once a restart would know it, by its booking or by
+// its placed record, and so would not fetch it again.
+TEST_F(EngineStateTest, EveryPlacedFileIsKnownToARestartAtEveryMoment) {
+    config.requiredStableChecks = 0;
+    config.deleteAfterDownload = false;
+    for (int i = 0; i < 40; ++i) server->files["f" + std::to_string(i) + ".bin"] = "content";
+    std::vector<std::string> unknown;
+    server->beforeDownload = [&](const std::string&) {
+        PartialDownloadTracker restart(dir / "partials.json", &loop);
+        DownloadTracker booked(restart.journal(), settingsStore, config.id.toString());
+        std::error_code ec;
+        for (fs::directory_iterator it(dir / "inbox", ec), end; !ec && it != end; ++it) {
+            const auto name = it->path().filename().string();
+            const auto record = restart.partial(config.id.toString(), name);
+            if (!name.ends_with(".tarnel-partial") && !booked.isDownloaded(name, 7) &&
+                !(record && record->placedPath == it->path().string()))
+                unknown.push_back(name);
+        }
+    };
+    auto engine = makeEngine();
+    engine->start();
+    loop.advance(30s);
+    EXPECT_TRUE(unknown.empty()) << unknown.front();
+    EXPECT_EQ(engine->totalTransferred()(), 40);
+}
+
 TEST_F(EngineStateTest, FailuresOfAnyKindFailOneFileOrOnePollAndTheEngineGoesOn) {
     config.requiredStableChecks = 0;
     config.maxRetries = 10;
@@ -331,6 +358,37 @@ TEST_F(EngineStateTest, TwoConnectionsWithOneNameInOneFolderKeepTheirOwnBytes) {
     // Its record untouched by the other connection's download, the cut file was resumed.
     EXPECT_TRUE(hasLogLine("[Test] Resuming: report.csv from 4 bytes"));
     EXPECT_FALSE(fs::exists(cut));
+}
+
+// Two connections keeping their files on the server place one name into one folder at the same
+// moment: each file gets a name of its own, and each record names its own file, so that a restart
+// never books one connection's file for the other.
+TEST_F(EngineStateTest, FilesPlacedTogetherUnderOneNameEachKeepTheirOwnPlace) {
+    config.requiredStableChecks = 0;
+    config.deleteAfterDownload = false;
+    server->files = {{"report.csv", "AAAAAAAAAA"}};
+    ConnectionConfig other = config;
+    other.id = Uuid::random();
+    auto otherServer = std::make_shared<MemoryServer>();
+    otherServer->files = {{"report.csv", "BBBBBBBBBB"}};
+    auto first = makeEngine();
+    auto second = std::make_shared<SyncEngine>(
+        other, std::make_unique<MemoryRemote>(loop, otherServer),
+        std::make_unique<DownloadTracker>(partials.journal(), settingsStore, other.id.toString()),
+        engineServices());
+    spawn(loop, first->pollOnce());
+    spawn(loop, second->pollOnce());
+    loop.runUntilIdle();
+
+    const auto inbox = dir / "inbox";
+    EXPECT_EQ((std::set<std::string>{readFile(inbox / "report.csv"), readFile(inbox / "report (1).csv")}),
+              (std::set<std::string>{"AAAAAAAAAA", "BBBBBBBBBB"}));
+    PartialDownloadTracker restart(dir / "partials.json", &loop);
+    for (const auto& [id, content] : {std::pair{config.id, "AAAAAAAAAA"}, {other.id, "BBBBBBBBBB"}}) {
+        const auto placed = restart.takePlacedByEarlierRun(id.toString());
+        ASSERT_EQ(placed.size(), 1u);
+        EXPECT_EQ(readFile(placed[0].placedPath), content);
+    }
 }
 
 // A file moved off the server is on disk, under its final name, before its delete is sent; one

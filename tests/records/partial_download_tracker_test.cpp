@@ -1,6 +1,7 @@
 #include "records/partial_download_tracker.h"
 
 #include <fstream>
+#include <future>
 #include <nlohmann/json.hpp>
 
 #include <gtest/gtest.h>
@@ -29,8 +30,8 @@ protected:
     std::filesystem::path file = dir / "Tarnel/partials.json";
 };
 
-// Each change but the byte count and a removal is on disk when the call returns: a crash right
-// after a download starts leaves the record that resumes it.
+// Each change but the byte count and a removal is on disk when the call returns (a placed mark
+// when it says so): a crash right after a download starts leaves the record that resumes it.
 TEST_F(PartialDownloadTrackerTest, RecordsAreOnDiskAtOnceAndSurviveARestart) {
     auto a = sample("a.zip");
     const auto onDisk = [&](const std::string& key) {
@@ -43,6 +44,12 @@ TEST_F(PartialDownloadTrackerTest, RecordsAreOnDiskAtOnceAndSurviveARestart) {
         EXPECT_TRUE(onDisk("b.zip"));
         tracker.incrementResumeAttempts(id, "a.zip");
         EXPECT_EQ(onDisk("a.zip")->resumeAttempts, 1);
+        // A placed file's mark, on disk by the time the file may go to its place.
+        tracker.record(sample("c.zip"));
+        std::promise<std::string> placed;
+        tracker.markPlaced(id, "c.zip", "/in/c.zip",
+                           [&] { placed.set_value(onDisk("c.zip")->placedPath); });
+        EXPECT_EQ(placed.get_future().get(), "/in/c.zip");
         tracker.remove(id, "b.zip");
         tracker.flush();
         EXPECT_FALSE(onDisk("b.zip"));
