@@ -394,9 +394,9 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
             md5 = co_await computeMD5(services_.runtime, tempPath);
 
         // A file that stays on the server keeps its record, marked placed, until its booking is
-        // surely on disk (the next poll): a crash meanwhile books it at the next start instead
-        // of fetching it again. One that is moved off the server loses its record first, so no
-        // record can ever stand for a later file of the same name.
+        // written: the two go to disk in one commit, and a crash before it books the file at the
+        // next start instead of fetching it again. One that is moved off the server loses its
+        // record first, so no record can ever stand for a later file of the same name.
         if (config_.deleteAfterDownload) partials.remove(connectionId, key);
         fs::path placed = co_await placeDownloadedFile(tempPath, fs::path(folder) / file.name, key);
 
@@ -445,7 +445,7 @@ Task<TransferResult> SyncEngine::transferFile(TrackedFile file, int counter, Win
         // Booked now, before anything else can fail or the program end: a placed file is never
         // fetched again and always has its history entry.
         recordTransfer(result);
-        if (!config_.deleteAfterDownload) placedRecords_.push_back(key);
+        if (!config_.deleteAfterDownload) partials.remove(connectionId, key);
         if (config_.autoDecompress) {
             // Its own failures are warnings already; anything else is one too.
             try {

@@ -43,12 +43,8 @@ SyncEngine::SyncEngine(ConnectionConfig config, std::unique_ptr<RemoteService> f
       downloadTracker_(std::move(downloadTracker)),
       services_(services) {}
 
-// The timer and the sleep observers end with their handles. Records of placed files go with
-// the engine that would have dropped them at its next poll.
-SyncEngine::~SyncEngine() {
-    for (const auto& key : placedRecords_)
-        services_.partialTracker.remove(config_.id.toString(), key);
-}
+// The timer and the sleep observers end with their handles.
+SyncEngine::~SyncEngine() = default;
 
 void SyncEngine::log(const std::string& text, LogLevel level) const {
     services_.logService.log("[" + config_.name + "] " + text, level);
@@ -203,13 +199,6 @@ Task<void> SyncEngine::pollOnce() {
 }
 
 Task<void> SyncEngine::runPoll() {
-    if (!placedRecords_.empty()) {
-        // Their history entries are written by now: the records that stood for them can go.
-        services_.historyService.flush();
-        for (const auto& key : placedRecords_)
-            services_.partialTracker.remove(config_.id.toString(), key);
-        placedRecords_.clear();
-    }
     if (auto error = checkLocalFolder()) {
         folderFailure(*error);
         co_return;

@@ -201,9 +201,6 @@ private:
     std::set<std::string> undeletedFiles_;
     // Tracking key to temporary file, for records written ahead of transfers not yet started.
     std::unordered_map<std::string, std::string> recordedAhead_;
-    // Keys whose partial record marks a file placed and booked; the records go at the next poll,
-    // when the booking is surely on disk.
-    std::vector<std::string> placedRecords_;
     Subscription sleepObservers_;
 };
 

@@ -68,12 +68,10 @@ public:
                                          const ErrorReport& reportError = {});
     ~Journal();  // commits what is written
 
-    // How long the committer lets rows gather before it commits them. A file placed while a batch
-    // runs writes its record and commits it at once: that commit takes the bookings of the files
-    // before it along, and the committer's own commit is rarely needed.
+    // How long the committer lets rows gather before it commits them, while nobody waits.
     static constexpr std::chrono::milliseconds commitHold{50};
-    // How long the committer holds rows back once someone waits for their commit: files placed
-    // close together share one commit, and none waits long.
+    // How long it holds them once someone waits for their commit (whenCommitted()): the files of a
+    // batch placed close together share one commit, and none waits long.
     static constexpr std::chrono::milliseconds waitedCommitHold{5};
 
     Journal(const Journal&) = delete;
