@@ -120,7 +120,7 @@ int copyMode(int count, bool withPeer) {
         loop.runUntilIdle();
         return cpuSeconds() - before;
     };
-    // The first poll after the batch also drops the batch's records of placed files.
+    // The first poll after the batch finds every file known, for the first time.
     std::printf("  first poll after the batch: %.2f s CPU\n", pollCpu());
     // A minute of polls at 30 s over files all known: nothing is fetched.
     const double first = pollCpu(), second = pollCpu();

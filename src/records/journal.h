@@ -53,9 +53,10 @@ private:
 // open until the journal's committer thread commits it, `commitHold` after the first of them: a
 // burst of rows shares one commit, and reads on the same connection see every row written before
 // them, committed or not. A commit survives a crash of the process; what was not committed is
-// lost with it, which is why the records that a restart must find commit themselves. Any commit
-// takes every row written before it along, so a row that stands in for another (a placed file's
-// record for its booking) may be removed once the row it stands for is written.
+// lost with it, which is why a record that a restart must find is committed (or waited for with
+// whenCommitted()) before what it stands for is done. Any commit takes every row written before
+// it along, so a row that stands in for another (a placed file's record for its booking) may be
+// removed once the row it stands for is written.
 class Journal {
 public:
     using ErrorReport = std::function<void(const std::string&)>;
