@@ -301,11 +301,11 @@ void PartialDownloadTracker::removeConnection(const std::string& connectionId) {
 }
 
 std::unique_ptr<PartialDownloadTracker::WritingClaim> PartialDownloadTracker::claimForWriting(
-    const std::filesystem::path& tempPath) {
+    const std::filesystem::path& path) {
     std::lock_guard lock(claims_->mutex);
-    if (!claims_->paths.insert(tempPath).second)
+    if (!claims_->paths.insert(path).second)
         return nullptr;
-    return std::make_unique<WritingClaim>(claims_, tempPath);
+    return std::make_unique<WritingClaim>(claims_, path);
 }
 
 bool PartialDownloadTracker::isClaimed(const std::filesystem::path& path) const {
