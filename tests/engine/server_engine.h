@@ -13,15 +13,16 @@
 
 namespace tarnel::testing {
 
-// An engine of the fixture's `config` that talks to a real server.
-inline std::shared_ptr<SyncEngine> makeServerEngine(EngineFixture& f) {
+// An engine of the fixture's `config` that talks to a real server, with the fixture's syncer
+// or `fileSyncer`.
+inline std::shared_ptr<SyncEngine> makeServerEngine(EngineFixture& f, FileSyncer* fileSyncer = nullptr) {
     auto client = std::make_unique<CurlTransferClient>(f.config, f.dir / "known_hosts");
     auto service = std::make_unique<FTPService>(f.config, f.logService, std::move(client));
     return std::make_shared<SyncEngine>(
         f.config, std::make_unique<FtpRemoteService>(f.runtime, std::move(service)),
         std::make_unique<DownloadTracker>(f.partials.journal(), f.settingsStore,
                                           f.config.id.toString()),
-        f.engineServices());
+        f.engineServices(fileSyncer));
 }
 
 // Every file below `root`, as sorted relative paths.
