@@ -80,11 +80,13 @@ struct EngineFixture : ::testing::Test {
     // With the fixture's syncer, or `fileSyncer`.
     EngineServices engineServices(FileSyncer* fileSyncer = nullptr) {
         return {runtime,  logService,    stats,        history,     settings,
-                partials, notifications, sleepMonitor, soundPlayer, fileSyncer ? *fileSyncer : syncer};
+                partials, notifications, sleepMonitor, soundPlayer,
+                fileSyncer ? *fileSyncer : syncer};
     }
 
     // An engine of `c` on the in-memory server `s`, beside the fixture's stores.
-    std::shared_ptr<SyncEngine> makeEngine(const ConnectionConfig& c, std::shared_ptr<MemoryServer> s) {
+    std::shared_ptr<SyncEngine> makeEngine(const ConnectionConfig& c,
+                                           std::shared_ptr<MemoryServer> s) {
         return std::make_shared<SyncEngine>(
             c, std::make_unique<MemoryRemote>(loop, std::move(s)),
             std::make_unique<DownloadTracker>(partials.journal(), settingsStore, c.id.toString()),

@@ -30,16 +30,7 @@ struct EngineTransferTest : EngineFixture, ::testing::WithParamInterface<ServerP
     }
 
     void serve(const std::string& path, const std::string& content) {
-        fs::path file = ftp->root() / path;
-        fs::create_directories(file.parent_path());
-        std::ofstream(file, std::ios::binary) << content;
-    }
-
-    // A file of `size` bytes that no two offsets repeat in, so any misplaced byte shows.
-    static std::string pattern(std::size_t size) {
-        std::string s(size, '\0');
-        for (std::size_t i = 0; i < size; ++i) s[i] = static_cast<char>((i * 7919 + i / 251) & 0xFF);
-        return s;
+        writeFile(ftp->root() / path, content);
     }
 };
 

@@ -258,7 +258,8 @@ TEST_F(ConnectionTest, eachFaultStopsAtItsOwnRow) {
     ::close(listener);
 
     server->stop();
-    failsAt(server->connectionConfig(), 1, "Cannot connect to port " + std::to_string(server->port()));
+    failsAt(server->connectionConfig(), 1,
+            "Cannot connect to port " + std::to_string(server->port()));
 }
 
 }  // namespace
