@@ -3,8 +3,6 @@
 // checksum of each file where they offer one, and MLSD listings where they speak them.
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "engine/destination.h"
 #include "engine_fixture.h"
 #include "server_engine.h"
