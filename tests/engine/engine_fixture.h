@@ -77,17 +77,22 @@ struct EngineFixture : ::testing::Test {
         return c;
     }
 
-    EngineServices engineServices() {
+    // With the fixture's syncer, or `fileSyncer`.
+    EngineServices engineServices(FileSyncer* fileSyncer = nullptr) {
         return {runtime,  logService,    stats,        history,     settings,
-                partials, notifications, sleepMonitor, soundPlayer, syncer};
+                partials, notifications, sleepMonitor, soundPlayer,
+                fileSyncer ? *fileSyncer : syncer};
     }
 
-    std::shared_ptr<SyncEngine> makeEngine() {
+    // An engine of `c` on the in-memory server `s`, beside the fixture's stores.
+    std::shared_ptr<SyncEngine> makeEngine(const ConnectionConfig& c,
+                                           std::shared_ptr<MemoryServer> s) {
         return std::make_shared<SyncEngine>(
-            config, std::make_unique<MemoryRemote>(loop, server),
-            std::make_unique<DownloadTracker>(partials.journal(), settingsStore, config.id.toString()),
+            c, std::make_unique<MemoryRemote>(loop, std::move(s)),
+            std::make_unique<DownloadTracker>(partials.journal(), settingsStore, c.id.toString()),
             engineServices());
     }
+    std::shared_ptr<SyncEngine> makeEngine() { return makeEngine(config, server); }
 
     void markDownloaded(const std::string& key, std::int64_t size) {
         DownloadTracker(partials.journal(), settingsStore, config.id.toString()).markDownloaded(key, size);

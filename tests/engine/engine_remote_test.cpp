@@ -3,8 +3,6 @@
 // checksum of each file where they offer one, and MLSD listings where they speak them.
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "engine/destination.h"
 #include "engine_fixture.h"
 #include "server_engine.h"
@@ -16,18 +14,6 @@ namespace {
 
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
-
-void writeFile(const fs::path& file, const std::string& content) {
-    fs::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary) << content;
-}
-
-// Content in which no two offsets repeat, so any misplaced byte shows.
-std::string pattern(std::size_t size, unsigned salt = 0) {
-    std::string s(size, '\0');
-    for (std::size_t i = 0; i < size; ++i) s[i] = static_cast<char>((i * 7919 + i / 251 + salt) & 0xFF);
-    return s;
-}
 
 struct EngineRemoteTest : EngineFixture {
     std::unique_ptr<TestServer> server;

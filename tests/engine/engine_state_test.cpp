@@ -183,16 +183,17 @@ TEST_F(EngineStateTest, FilesSettleOverPollsAndFilteredOnesAreNeverTracked) {
     // Through a poll: the filters keep a.jpg and empty.jpg (size 0 passes every minimum).
     engine->start();
     loop.advance(30s);
-    std::vector<std::string> names;
-    for (auto& s : engine->trackedSnapshots()()) names.push_back(s.name);
-    EXPECT_EQ(names, (std::vector<std::string>{"a.jpg", "empty.jpg"}));
+    const auto tracked = [&] {
+        std::vector<std::string> names;
+        for (auto& s : engine->trackedSnapshots()()) names.push_back(s.name);
+        return names;
+    };
+    EXPECT_EQ(tracked(), (std::vector<std::string>{"a.jpg", "empty.jpg"}));
 
     // a.jpg settles and is fetched within two more polls: the snapshots name it no longer.
     loop.advance(60s);
     EXPECT_EQ(engine->totalTransferred()(), 1);
-    names.clear();
-    for (auto& s : engine->trackedSnapshots()()) names.push_back(s.name);
-    EXPECT_EQ(names, (std::vector<std::string>{"empty.jpg"}));
+    EXPECT_EQ(tracked(), (std::vector<std::string>{"empty.jpg"}));
 }
 
 TEST_F(EngineStateTest, TwoFoldersWithOneNameGiveTwoKeysAndDownloadedFilesAreSkipped) {
@@ -343,10 +344,7 @@ TEST_F(EngineStateTest, TwoConnectionsWithOneNameInOneFolderKeepTheirOwnBytes) {
     std::ofstream(cut) << "AAAA";
     partials.record({"report.csv", cut.string(), 10, 4, config.id.toString(), {}, {}, 0, ""});
 
-    auto second = std::make_shared<SyncEngine>(
-        other, std::make_unique<MemoryRemote>(loop, otherServer),
-        std::make_unique<DownloadTracker>(partials.journal(), settingsStore, other.id.toString()),
-        engineServices());
+    auto second = makeEngine(other, otherServer);
     second->start();
     loop.advance(30s);
     auto first = makeEngine();
@@ -372,10 +370,7 @@ TEST_F(EngineStateTest, FilesPlacedTogetherUnderOneNameEachKeepTheirOwnPlace) {
     auto otherServer = std::make_shared<MemoryServer>();
     otherServer->files = {{"report.csv", "BBBBBBBBBB"}};
     auto first = makeEngine();
-    auto second = std::make_shared<SyncEngine>(
-        other, std::make_unique<MemoryRemote>(loop, otherServer),
-        std::make_unique<DownloadTracker>(partials.journal(), settingsStore, other.id.toString()),
-        engineServices());
+    auto second = makeEngine(other, otherServer);
     spawn(loop, first->pollOnce());
     spawn(loop, second->pollOnce());
     // Both wait for their marks; a crash once these are on disk leaves them to the next start.

@@ -5,13 +5,11 @@
 #include <set>
 
 #include "engine/destination.h"
-#include "engine/ftp_remote_service.h"
 #include "engine/md5.h"
 #include "platform/posix/group_file_syncer.h"
 #include "engine_fixture.h"
+#include "server_engine.h"
 #include "servers/test_server.h"
-#include "transfer/curl_transfer_client.h"
-#include "transfer/ftp_service.h"
 
 namespace tarnel::testing {
 namespace {
@@ -31,39 +29,8 @@ struct EngineTransferTest : EngineFixture, ::testing::WithParamInterface<ServerP
         return *ftp;
     }
 
-    // With the fixture's syncer, or `fileSyncer`.
-    std::shared_ptr<SyncEngine> makeServerEngine(FileSyncer* fileSyncer = nullptr) {
-        auto client = std::make_unique<CurlTransferClient>(config, dir / "known_hosts");
-        auto service = std::make_unique<FTPService>(config, logService, std::move(client));
-        return std::make_shared<SyncEngine>(
-            config, std::make_unique<FtpRemoteService>(runtime, std::move(service)),
-            std::make_unique<DownloadTracker>(partials.journal(), settingsStore,
-                                              config.id.toString()),
-            EngineServices{runtime, logService, stats, history, settings, partials, notifications,
-                           sleepMonitor, soundPlayer, fileSyncer ? *fileSyncer : syncer});
-    }
-
     void serve(const std::string& path, const std::string& content) {
-        fs::path file = ftp->root() / path;
-        fs::create_directories(file.parent_path());
-        std::ofstream(file, std::ios::binary) << content;
-    }
-
-    // Every file below `root`, as relative paths.
-    static std::vector<std::string> filesBelow(const fs::path& root) {
-        std::vector<std::string> out;
-        std::error_code ec;
-        for (auto it = fs::recursive_directory_iterator(root, ec); it != fs::recursive_directory_iterator(); ++it)
-            if (it->is_regular_file()) out.push_back(fs::relative(it->path(), root).string());
-        std::sort(out.begin(), out.end());
-        return out;
-    }
-
-    // A file of `size` bytes that no two offsets repeat in, so any misplaced byte shows.
-    static std::string pattern(std::size_t size) {
-        std::string s(size, '\0');
-        for (std::size_t i = 0; i < size; ++i) s[i] = static_cast<char>((i * 7919 + i / 251) & 0xFF);
-        return s;
+        writeFile(ftp->root() / path, content);
     }
 };
 
@@ -77,7 +44,7 @@ TEST_P(EngineTransferTest, AGrowingFileIsFetchedOnceSettledIntoItsDatedRenamedPl
     loop.setLocalTime(2024, 3, 7, 14, 5);
     const std::string full = pattern(300'000);
     serve("photo.raw", full.substr(0, 100'000));
-    auto engine = makeServerEngine();
+    auto engine = makeServerEngine(*this);
     engine->start();
 
     loop.advance(10s);  // seen: count 0
@@ -131,7 +98,7 @@ TEST_F(EngineTransferFtpTest, TakenNamesGetNumbersAndFoldersFollowTheOrganisatio
     serve("report.pdf", "new report");
     fs::create_directories(dir / "inbox");
     std::ofstream(dir / "inbox" / "report.pdf") << "old";
-    auto engine = makeServerEngine();
+    auto engine = makeServerEngine(*this);
     engine->start();
     loop.advance(10s);
 
@@ -155,7 +122,7 @@ TEST_F(EngineTransferFtpTest, ACutResumeIsResumedAgainAndAChangedFileIsFetchedWh
                      100'000, config.id.toString(), then, then, 0, ""});
 
     server.cutTransfersAfter(150'000);  // the resumed attempt is cut too: its bytes stay
-    auto engine = makeServerEngine();
+    auto engine = makeServerEngine(*this);
     engine->start();
     loop.advance(10s);
     EXPECT_TRUE(hasLogLine("[Test] Resuming: big.bin from 100 KB (attempt 1/5)"));
@@ -206,7 +173,7 @@ TEST_F(EngineTransferFtpTest, MovedFilesAreSyncedByTheGroupSyncerBeforeTheirSour
                 synced.push_back(name);
         }
     } spy{runtime, server.root()};
-    auto engine = makeServerEngine(&spy);
+    auto engine = makeServerEngine(*this, &spy);
     engine->start();
     loop.advance(10s);
 
@@ -224,7 +191,7 @@ TEST_F(EngineTransferFtpTest, SizeMismatchAndEmptyFiles) {
     serve("grows.csv", "1234567890");
     serve("empty.txt", "");
     server.growOnNextDownload("grows.csv", "abc");  // changes between listing and download
-    auto engine = makeServerEngine();
+    auto engine = makeServerEngine(*this);
     engine->start();
     loop.advance(10s);
     EXPECT_TRUE(hasLogLine("ERR [Test] Size mismatch: grows.csv \u2014 remote: 10 bytes, local: 13 bytes"));
@@ -247,7 +214,7 @@ TEST_F(EngineTransferFtpTest, AServerThatRefusesDeletesHandsEachFileOverOnce) {
     serve("a.txt", "first");
     serve("b.txt", "second");
     serve("sub/c.txt", "third");
-    auto engine = makeServerEngine();
+    auto engine = makeServerEngine(*this);
     engine->start();
     loop.advance(10s);
     EXPECT_TRUE(hasLogLine("WARN [Test] Downloaded OK but delete failed: sub/c.txt"));
@@ -281,7 +248,7 @@ TEST_F(EngineTransferFtpTest, SameNamedFilesFromTwoFoldersBothArriveWhole) {
     serve("a/x.jpg", first);
     serve("b/x.jpg", second);
     server.throttleDownloads(2'000'000);  // both transfers run at the same time
-    auto engine = makeServerEngine();
+    auto engine = makeServerEngine(*this);
     engine->start();
     loop.advance(10s);
 
@@ -297,7 +264,7 @@ TEST_F(EngineTransferFtpTest, AListingThatFailsThreeTimesShowsErrorAndRecovers) 
     auto& server = startServer();
     settings.setNotificationsEnabled(true);
     server.stop();
-    auto engine = makeServerEngine();
+    auto engine = makeServerEngine(*this);
     engine->start();
     loop.advance(10s);
     EXPECT_EQ(engine->statusText()(), "Retrying (1/3)...");
@@ -321,7 +288,7 @@ TEST_F(EngineTransferFtpTest, RetriesRunOutIntoHistoryAndANotificationThenTheCyc
     config.maxRetries = 3;
     serve("bad.zip", pattern(50'000));
     server.cutTransfersAfter(1000);
-    auto engine = makeServerEngine();
+    auto engine = makeServerEngine(*this);
     engine->start();
     loop.advance(10s);
     EXPECT_TRUE(hasLogLine("WARN [Test] Will retry bad.zip in 5s (attempt 1/3)"));
@@ -344,14 +311,14 @@ TEST_F(EngineTransferFtpTest, WithoutDeleteAFileIsFetchedOnceAcrossRestartsAndAg
     config.deleteAfterDownload = false;
     serve("list.csv", "v1");
     {
-        auto engine = makeServerEngine();
+        auto engine = makeServerEngine(*this);
         engine->start();
         loop.advance(30s);
         engine->stop();
     }
     EXPECT_EQ(readFile(dir / "inbox" / "list.csv"), "v1");
     {
-        auto engine = makeServerEngine();  // a new engine remembers through the settings
+        auto engine = makeServerEngine(*this);  // a new engine remembers through the settings
         engine->start();
         loop.advance(30s);
         EXPECT_FALSE(fs::exists(dir / "inbox" / "list (1).csv"));

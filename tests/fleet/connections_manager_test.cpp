@@ -88,14 +88,12 @@ TEST_F(ManagerTest, PauseAllWithNoEnginesHoldsUntilTheNextRecomputation) {
 }
 
 TEST_F(ManagerTest, AListThatLacksKeysIsWrittenBackInFullWithItsCountsBounded) {
-    // A record with only its required keys, and counts no editor offers.
-    settingsStore.setValue(ConnectionsManager::storageKey,
-                           std::string(R"([{"id":"6F2D3C0A-1B2C-4D5E-8F90-A1B2C3D4E5F6","name":"Old",)"
-                                       R"("enabled":true,"transferProtocol":"SFTP","host":"h","port":22,)"
-                                       R"("username":"u","password":"p","remotePath":"/in","localPath":"",)"
-                                       R"("pollInterval":30,"requiredStableChecks":2,"extensionFilter":"",)"
-                                       R"("extensionFilterExclude":false,"deleteAfterDownload":true,)"
-                                       R"("maxRetries":2000000,"maxConcurrentDownloads":-3}])"));
+    // A record from before a key was added, with counts no editor offers.
+    auto old = nlohmann::json::parse(encodeConnectionList({connection("Old", "h")}));
+    old[0].erase("maxResumeAttempts");
+    old[0]["maxRetries"] = 2000000;
+    old[0]["maxConcurrentDownloads"] = -3;
+    settingsStore.setValue(ConnectionsManager::storageKey, old.dump());
     auto manager = makeManager();
     ASSERT_EQ(manager->connections()().size(), 1u);
     EXPECT_EQ(manager->connections()()[0].maxRetries, 10);

@@ -118,19 +118,6 @@ TEST_F(RuntimeTest, WorkerResultsAndExceptionsComeBackOnTheLoopThread) {
     EXPECT_EQ(error, "boom");
 }
 
-TEST_F(RuntimeTest, VirtualTimersFireAtTheirMomentsAndStopWhenDestroyed) {
-    std::vector<long> fires;
-    const auto start = loop.now();
-    auto timer = loop.startTimer(10s, true, [&] {
-        fires.push_back(std::chrono::duration_cast<std::chrono::seconds>(loop.now() - start).count());
-    });
-    loop.advance(35s);
-    EXPECT_EQ(fires, (std::vector<long>{10, 20, 30}));
-    timer.reset();
-    loop.advance(60s);
-    EXPECT_EQ(fires.size(), 3u);
-}
-
 TEST(RuntimeTeardown, SuspendedDetachedTasksAreFreedWithTheLoop) {
     auto token = std::make_shared<int>(0);
     std::weak_ptr<int> watch = token;

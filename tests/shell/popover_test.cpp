@@ -51,7 +51,6 @@ TEST_F(PopoverTest, WhatTheTrayReportsChoosesTheForm) {
     popover.open(true, {});
     EXPECT_EQ(popover.kind(), K::popupWindow);
     EXPECT_EQ(popover.windowType(), Qt::Window);
-    EXPECT_EQ(popover.windowTitle(), QStringLiteral("Tarnel"));
     EXPECT_TRUE(QTest::qWaitForWindowActive(&popover));
     EXPECT_FALSE(showsTheWayBack());
     popover.hide();

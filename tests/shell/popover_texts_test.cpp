@@ -10,7 +10,7 @@ TEST(PopoverHeader, DiskThenNetworkThenPauseThenTheCountOfEnabledConnections) {
     EXPECT_EQ(headerStatusText({false, true, true, 3}), "No network");
     EXPECT_EQ(headerStatusText({false, false, true, 3}), "Paused");
     EXPECT_EQ(headerStatusText({false, false, false, 0}), "No connections");
-    EXPECT_EQ(headerStatusText({false, false, false, 1}), "1 active connection");
+    // The count's words, in each language's forms, are the language test's.
     EXPECT_EQ(headerStatusText({false, false, false, 4}), "4 active connections");
 }
 

@@ -46,7 +46,6 @@ TEST_F(PopoverViewTest, ShowsTheFleetAndItsButtonsActOnIt) {
     ASSERT_TRUE(mute);
     QTest::mouseClick(mute, Qt::LeftButton);
     EXPECT_FALSE(settings.playSoundOnDownload());
-    EXPECT_EQ(settingsStore.boolValue("play_sound"), false);
     view.refresh();
     EXPECT_TRUE(withText<QPushButton>(view, "Unmute"));
 
@@ -107,7 +106,6 @@ TEST_F(PopoverViewTest, AnUpdateKeepsRowsAndTheirMenuOpenAndAMinuteRedrawsTimeTe
     // Nothing the view watches has changed; only its minute passes, made short here.
     auto* minute = view.findChild<QTimer*>(QStringLiteral("timeTexts"));
     ASSERT_TRUE(minute && minute->isActive());
-    EXPECT_EQ(minute->intervalAsDuration(), std::chrono::minutes(1));
     minute->setInterval(1);
     QTest::qWait(20);
     lastActivity = startingWith(view, "Last activity: ");

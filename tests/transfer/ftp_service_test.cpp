@@ -32,17 +32,13 @@ protected:
     std::vector<std::string> logged() {
         loop.runUntilIdle();
         std::vector<std::string> lines;
-        for (const auto& e : logService.entries().value()) {
-            lines.push_back(e.message);
-        }
+        for (const auto& e : logService.entries().value()) lines.push_back(e.message);
         return lines;
     }
 
     static std::vector<std::string> relativePaths(const std::vector<FTPFileEntry>& entries) {
         std::vector<std::string> paths;
-        for (const auto& e : entries) {
-            paths.push_back(e.relativePath);
-        }
+        for (const auto& e : entries) paths.push_back(e.relativePath);
         std::sort(paths.begin(), paths.end());
         return paths;
     }
@@ -184,9 +180,7 @@ struct Rows {
     }
     std::vector<TestStepStatus> statuses() const {
         std::vector<TestStepStatus> s;
-        for (const auto& step : last) {
-            s.push_back(step.status);
-        }
+        for (const auto& step : last) s.push_back(step.status);
         return s;
     }
 };
@@ -210,33 +204,33 @@ TEST_F(ConnectionTest, aLiveServerPassesEveryRow) {
 }
 
 TEST_F(ConnectionTest, eachFaultStopsAtItsOwnRow) {
+    // The rows before `row` pass, `row` fails saying `detail`, the later ones never start.
+    const auto failsAt = [&](const ConnectionConfig& config, std::size_t row,
+                             const std::string& detail) {
+        Rows rows;
+        int code = 0;
+        try {
+            makeService(config).testConnectionSteps(rows.progress());
+            ADD_FAILURE() << "no error: " << detail;
+        } catch (const FTPError& e) {
+            code = e.curlCode();
+        }
+        std::vector<S> expected(5, S::pending);
+        std::fill_n(expected.begin(), row, S::success);
+        expected[row] = S::failure;
+        EXPECT_EQ(rows.statuses(), expected) << detail;
+        EXPECT_EQ(rows.last.at(row).detail, detail);
+        return code;
+    };
     auto config = server->connectionConfig();
     config.password = "wrong";
-    Rows wrongPassword;
-    EXPECT_THROW(makeService(config).testConnectionSteps(wrongPassword.progress()), FTPError);
-    EXPECT_EQ(wrongPassword.statuses(),
-              (std::vector<S>{S::success, S::success, S::failure, S::pending, S::pending}));
-    EXPECT_EQ(wrongPassword.last[2].detail, "Wrong username or password");
-
+    failsAt(config, 2, "Wrong username or password");
     config = server->connectionConfig();
     config.remotePath = "/nope";
-    Rows wrongFolder;
-    EXPECT_THROW(makeService(config).testConnectionSteps(wrongFolder.progress()), FTPError);
-    EXPECT_EQ(wrongFolder.statuses(),
-              (std::vector<S>{S::success, S::success, S::success, S::failure, S::pending}));
-    EXPECT_EQ(wrongFolder.last[3].detail, "Folder not accessible: /nope");
-
+    failsAt(config, 3, "Folder not accessible: /nope");
     config.host = "no-such-host.invalid";
-    Rows unknownHost;
-    try {
-        makeService(config).testConnectionSteps(unknownHost.progress());
-        ADD_FAILURE() << "no error";
-    } catch (const FTPError& e) {
-        EXPECT_EQ(e.curlCode(), CURLE_COULDNT_RESOLVE_HOST);
-    }
-    EXPECT_EQ(unknownHost.statuses(),
-              (std::vector<S>{S::failure, S::pending, S::pending, S::pending, S::pending}));
-    EXPECT_EQ(unknownHost.last[0].detail, "Host 'no-such-host.invalid' not found");
+    EXPECT_EQ(failsAt(config, 0, "Host 'no-such-host.invalid' not found"),
+              CURLE_COULDNT_RESOLVE_HOST);
 
     // libcurl's own words, not only its code's: a port that hangs up on SSH at once.
     const int listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
@@ -264,11 +258,8 @@ TEST_F(ConnectionTest, eachFaultStopsAtItsOwnRow) {
     ::close(listener);
 
     server->stop();
-    Rows noServer;
-    EXPECT_THROW(makeService().testConnectionSteps(noServer.progress()), FTPError);
-    EXPECT_EQ(noServer.statuses(),
-              (std::vector<S>{S::success, S::failure, S::pending, S::pending, S::pending}));
-    EXPECT_EQ(noServer.last[1].detail, "Cannot connect to port " + std::to_string(server->port()));
+    failsAt(server->connectionConfig(), 1,
+            "Cannot connect to port " + std::to_string(server->port()));
 }
 
 }  // namespace
