@@ -33,6 +33,7 @@ TEST(StatusIcon, SyncingTurnsTheArrowsAndASecondSyncingDoesNotRestartThem) {
     // A full turn wraps to the start, never reaching 360.
     for (int i = 0; i < 30; ++i) icon.renderSyncFrame();
     EXPECT_LT(icon.syncAnimationAngle(), 360.0);
+    EXPECT_DOUBLE_EQ(icon.syncAnimationAngle(), std::fmod(angle + 30 * StatusIcon::degreesPerFrame, 360.0));
 
     icon.updateStatusIcon(ConnectionState::syncing, false, true);
     EXPECT_FALSE(icon.isAnimating());
