@@ -5,7 +5,8 @@
 //     tenth of the files, and the resident memory after it;
 //   - the first poll after the batch, then a minute of polls at a 30 s interval over the listing
 //     whose files are now all known: its CPU (the polls' CPU seconds over the 60 s).
-// Usage: copy_mode_bench [count] [tarnel]   (tarnel: the engine alone, for profiling it)
+// Usage: copy_mode_bench [count] [tarnel|both] [place]   (tarnel: the engine alone, for profiling
+// it; place: the folder that takes the copies and the stores, /dev/shm by default)
 #include <cstdio>
 #include <fstream>
 #include <iomanip>
@@ -39,7 +40,7 @@ double rate(const std::vector<bench::Clock::time_point>& placed, std::size_t fro
     return double(to - from) / std::chrono::duration<double>(placed[to - 1] - placed[from - 1]).count();
 }
 
-int copyMode(int count, bool withPeer) {
+int copyMode(int count, bool withPeer, const fs::path& place) {
     if (const auto why = NativeServer::unavailable(NativeServerKind::vsftpd)) {
         std::fprintf(stderr, "copy_mode_bench: %s\n", why->c_str());
         return 2;
@@ -51,9 +52,10 @@ int copyMode(int count, bool withPeer) {
         std::ofstream(folder / fileName(i)) << "eleven byte";
     NativeServer::handOver(folder.parent_path());
     const std::string below = fs::relative(folder, NativeServer::home()).string();
-    const fs::path scratch = "/dev/shm/tarnel-copy-bench-" + std::to_string(::getpid());
+    const fs::path scratch = place / ("tarnel-copy-bench-" + std::to_string(::getpid()));
     fs::remove_all(scratch);
-    std::printf("%d files of 11 bytes from vsftpd in copy mode, 4 at a time\n", count);
+    std::printf("%d files of 11 bytes from vsftpd in copy mode, 4 at a time, into %s\n", count,
+                place.c_str());
 
     auto config = server.connectionConfig();
     if (withPeer) {
@@ -143,5 +145,6 @@ int copyMode(int count, bool withPeer) {
 int main(int argc, char** argv) {
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     const int count = argc > 1 ? std::atoi(argv[1]) : 20000;
-    return tarnel::copyMode(count > 0 ? count : 20000, argc < 3 || std::string(argv[2]) != "tarnel");
+    return tarnel::copyMode(count > 0 ? count : 20000, argc < 3 || std::string(argv[2]) != "tarnel",
+                            argc > 3 ? argv[3] : "/dev/shm");
 }
